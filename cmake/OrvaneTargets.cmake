@@ -1,0 +1,36 @@
+include(GoogleTest)
+
+# What every target of ours is compiled with.
+add_library(orvane_build INTERFACE)
+target_compile_options(orvane_build INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+target_include_directories(orvane_build INTERFACE ${PROJECT_SOURCE_DIR})
+if(ORVANE_SANITIZE)
+  target_compile_options(orvane_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orvane_build INTERFACE -fsanitize=address,undefined)
+endif()
+
+# orvane_library(NAME LIB...): a static library of all sources of this folder; it may use LIB... and nothing else.
+function(orvane_library name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(NOT sources)
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE orvane_build ${ARGN})
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC orvane_build ${ARGN})
+endfunction()
+
+# orvane_tests(FOLDER LIB...): one test program of all sources of tests/FOLDER, each test known to CTest by name.
+function(orvane_tests folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${folder}_tests ${sources})
+  target_link_libraries(${folder}_tests PRIVATE ${ARGN} GTest::gtest_main GTest::gmock)
+  target_compile_definitions(${folder}_tests PRIVATE ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${folder}_tests PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
+endfunction()

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "surface/failure.h"
+
+namespace orvane {
+
+// An ordered collection whose positions run from 1 to Count() without gaps.
+template <class T>
+class Collection {
+ public:
+  void Add(T item) { items_.push_back(std::move(item)); }
+
+  // Both fail with a position outside 1 to Count().
+  const T& Item(std::int32_t position) const { return items_[offset(position)]; }
+  void Remove(std::int32_t position) { items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(offset(position))); }
+  const T& operator()(std::int32_t position) const { return Item(position); }
+
+  std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
+
+  auto begin() const { return items_.begin(); }
+  auto end() const { return items_.end(); }
+
+ private:
+  std::size_t offset(std::int32_t position) const {
+    if (position < 1 || position > Count())
+      throw Failure("Position " + std::to_string(position) + " hors de la collection (1 à " + std::to_string(Count()) +
+                    ").");
+    return static_cast<std::size_t>(position - 1);
+  }
+
+  std::vector<T> items_;
+};
+
+}  // namespace orvane

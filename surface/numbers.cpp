@@ -1,0 +1,116 @@
+#include "surface/numbers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "surface/failure.h"
+
+namespace orvane {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Reads a number from the left of a text and collects its characters without the blanks inside.
+class NumberScanner {
+ public:
+  explicit NumberScanner(std::string_view text) : rest_(text) {}
+
+  std::string scan() {
+    while (peek() == ' ') rest_.remove_prefix(1);
+    take('+', '-');
+    const bool hasDigits = digits() + (take('.', '.') ? digits() : 0) > 0;
+    if (!hasDigits) return {};
+    exponent();
+    if (number_.front() == '+') number_.erase(0, 1);
+    return number_;
+  }
+
+ private:
+  char peek(std::size_t ahead = 0) const { return ahead < rest_.size() ? rest_[ahead] : '\0'; }
+
+  bool take(char one, char other) {
+    if (rest_.empty() || (peek() != one && peek() != other)) return false;
+    number_ += peek();
+    rest_.remove_prefix(1);
+    return true;
+  }
+
+  int digits() {
+    int count = 0;
+    for (;;) {
+      const std::size_t blanks = count > 0 ? std::min(rest_.find_first_not_of(' '), rest_.size()) : 0;
+      if (!isDigit(peek(blanks))) return count;
+      rest_.remove_prefix(blanks);
+      number_ += peek();
+      rest_.remove_prefix(1);
+      ++count;
+    }
+  }
+
+  void exponent() {
+    if (peek() != 'e' && peek() != 'E') return;
+    const bool isSigned = peek(1) == '+' || peek(1) == '-';
+    if (!isDigit(peek(isSigned ? 2 : 1))) return;
+    take('e', 'E');
+    take('+', '-');
+    digits();
+  }
+
+  std::string_view rest_;
+  std::string number_;
+};
+
+double parsed(std::string_view number) {
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  // Out of range is also what is too small to be told from 0: that has a negative exponent.
+  const bool tiny = number.find('-', 1) != std::string_view::npos;
+  if (result.ec == std::errc::result_out_of_range && !tiny)
+    throw Failure("Nombre trop grand : " + std::string(number.substr(0, 40)) + ".");
+  return value;
+}
+
+std::string_view withoutEndBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+double numericPrefix(std::string_view text) {
+  const std::string number = NumberScanner(text).scan();
+  return number.empty() ? 0 : parsed(number);
+}
+
+double strictNumber(std::string_view text) {
+  std::string_view number = withoutEndBlanks(text);
+  const bool plus = !number.empty() && number.front() == '+';
+  if (plus) number.remove_prefix(1);
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec != std::errc() || result.ptr != number.data() + number.size() || !std::isfinite(value) ||
+      (plus && number.front() == '-'))
+    throw Failure("« " + std::string(text) + " » n'est pas un nombre.");
+  return value;
+}
+
+std::int16_t toInt16(double value) {
+  const double whole = std::nearbyint(value);
+  if (!(whole >= std::numeric_limits<std::int16_t>::min() && whole <= std::numeric_limits<std::int16_t>::max()))
+    throw Failure("Le nombre " + numberText(value) + " sort des limites -32768 à 32767.");
+  return static_cast<std::int16_t>(whole);
+}
+
+std::string numberText(double value) {
+  double whole = std::nearbyint(value);
+  if (whole == 0) whole = 0;  // no "-0"
+  std::string text(400, '\0');
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), whole, std::chars_format::fixed, 0);
+  text.resize(static_cast<std::size_t>(result.ptr - text.data()));
+  return text;
+}
+
+}  // namespace orvane

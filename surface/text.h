@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// French text. All texts are UTF-8; lengths count characters.
+namespace orvane {
+
+// The line end of texts for the user.
+inline constexpr std::string_view crLf = "\r\n";
+
+std::size_t characterCount(std::string_view text);
+std::string firstCharacters(std::string_view text, std::size_t count);
+std::string lowerCase(std::string_view text);
+
+// Without the spaces at both ends.
+std::string trimmed(std::string_view text);
+
+// A text whose byte order is the French alphabetical order of the texts it was made from (É beside E).
+std::string sortKey(std::string_view text);
+
+// The positions of the texts in French alphabetical order, equal ones in the order they came in.
+std::vector<std::size_t> alphabeticalOrder(const std::vector<std::string>& texts);
+
+}  // namespace orvane
