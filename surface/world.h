@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+// The outside world, as interfaces that a run is given: a screen, a script player and the tests each bring their own.
+namespace orvane {
+
+class Form;
+
+enum class Answer : std::int16_t { OK = 1, Cancel = 2, Yes = 6, No = 7 };
+
+// Buttons and icon of a message box, by the numbers of the system.
+enum class BoxStyle : std::int16_t {
+  Plain = 0,         // OK
+  Critical = 16,     // OK
+  Exclamation = 48,  // OK
+  Information = 64,  // OK
+  OkCancel = 33,     // question
+  YesNo = 36,        // question
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  // Blocks until the user answers.
+  virtual Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string& title) = 0;
+  // Shows a form and blocks until it is unloaded; only that form takes acts meanwhile.
+  virtual void runModal(Form& form) = 0;
+  // Tells of a failure that no handler caught.
+  virtual void failure(const std::string& description) = 0;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  // Seconds since midnight.
+  virtual float Timer() = 0;
+  virtual void sleep(float seconds) = 0;
+};
+
+// The per-user store of texts.
+class Settings {
+ public:
+  virtual ~Settings() = default;
+  virtual std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
+                                 const std::string& defaultValue) = 0;
+  virtual void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
+                           const std::string& value) = 0;
+};
+
+// Files by path, relative to the current directory. All but the questions fail with a French reason that names the
+// path.
+class Files {
+ public:
+  virtual ~Files() = default;
+  virtual bool fileExists(const std::string& path) = 0;
+  virtual bool directoryExists(const std::string& path) = 0;
+  virtual std::string read(const std::string& path) = 0;
+  virtual void MkDir(const std::string& path) = 0;
+  // Writes a new file and returns once its bytes are on the disk.
+  virtual void write(const std::string& path, std::string_view bytes) = 0;
+  // Puts a file in the place of another one, in one step.
+  virtual void replace(const std::string& from, const std::string& to) = 0;
+  virtual void Kill(const std::string& path) = 0;
+};
+
+// A surface of 96 dots per inch that texts are printed on for good. Measures are twips (1/1440 inch, 15 a pixel).
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+  virtual float width() const = 0;
+  virtual float height() const = 0;
+  virtual void setFont(const std::string& name, float points) = 0;
+  virtual float TextWidth(std::string_view text) const = 0;
+  // The height of one line, also for an empty text.
+  virtual float TextHeight(std::string_view text) const = 0;
+  // Draws black on what lies there, the top left corner of the text at x, y.
+  virtual void print(std::string_view text, float x, float y) = 0;
+  // The bytes of a Windows bitmap file of all that is on the canvas.
+  virtual std::string bitmap() const = 0;
+};
+
+// The pictures that are stored with the program.
+class Pictures {
+ public:
+  virtual ~Pictures() = default;
+  // A canvas of its own that holds the picture: "recto" or "verso". Fails with any other name.
+  virtual std::unique_ptr<Canvas> open(std::string_view name) = 0;
+};
+
+// All of it. The references outlive the run that uses them.
+struct World {
+  Dialogs& dialogs;
+  Clock& clock;
+  Settings& settings;
+  Files& files;
+  Pictures& pictures;
+};
+
+}  // namespace orvane
