@@ -1,0 +1,19 @@
+#include "surface/chance.h"
+
+#include <bit>
+
+namespace orvane {
+
+void Chance::Randomize(float seed) { state_ = std::bit_cast<std::uint32_t>(seed); }
+
+// The splitmix64 step: seeds that lie close together still give unrelated first numbers.
+double Chance::Rnd() {
+  state_ += 0x9E3779B97F4A7C15U;
+  std::uint64_t mixed = state_;
+  mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9U;
+  mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBU;
+  mixed ^= mixed >> 31;
+  return static_cast<double>(mixed >> 11) * 0x1.0p-53;
+}
+
+}  // namespace orvane

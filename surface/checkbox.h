@@ -1,0 +1,34 @@
+#pragma once
+
+#include "surface/control.h"
+
+namespace orvane {
+
+class CheckBox : public Control {
+ public:
+  struct Design {
+    std::string caption = {};
+    int value = 0;
+  };
+
+  CheckBox(Place place, std::string name) : CheckBox(place, std::move(name), Design()) {}
+
+  CheckBox(Place place, std::string name, Design design);
+
+  // 0 unchecked, 1 checked.
+  int Value() const { return value_; }
+  void setValue(int value);
+  const std::string& Caption() const { return caption_; }
+
+  Event<> Click{*this};
+
+  std::string_view kind() const override { return "case à cocher"; }
+  PropertyList properties() const override;
+  PreparedAct prepareClick() override;
+
+ private:
+  int value_;
+  std::string caption_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+#include "surface/commandbutton.h"
+
+namespace orvane {
+
+CommandButton::CommandButton(Place place, std::string name, Design design)
+    : Control(place, std::move(name)),
+      caption_(std::move(design.caption)),
+      picture_(design.picture),
+      cancel_(design.cancel) {
+  setVisible(design.visible);
+}
+
+PropertyList CommandButton::properties() const { return {{"Enabled", Enabled()}, {"Visible", Visible()}}; }
+
+PreparedAct CommandButton::prepareClick() {
+  return [this] { Click.fire(); };
+}
+
+}  // namespace orvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "surface/control.h"
+
+namespace orvane {
+
+class CommandButton : public Control {
+ public:
+  enum class Picture { None, LeftArrow, RightArrow };
+  struct Design {
+    std::string caption = {};
+    Picture picture = Picture::None;
+    bool cancel = false;  // the Escape key presses it
+    bool visible = true;
+  };
+
+  CommandButton(Place place, std::string name) : CommandButton(place, std::move(name), Design()) {}
+
+  CommandButton(Place place, std::string name, Design design);
+
+  const std::string& Caption() const { return caption_; }
+  Picture picture() const { return picture_; }
+  bool isCancel() const { return cancel_; }
+
+  Event<> Click{*this};
+
+  std::string_view kind() const override { return "bouton"; }
+  PropertyList properties() const override;
+  PreparedAct prepareClick() override;
+
+ private:
+  std::string caption_;
+  Picture picture_;
+  bool cancel_;
+};
+
+// The designs of a pair of arrow buttons: index 0 steps down, index 1 steps up.
+inline const CommandButton::Design leftArrow{.picture = CommandButton::Picture::LeftArrow};
+inline const CommandButton::Design rightArrow{.picture = CommandButton::Picture::RightArrow};
+
+}  // namespace orvane

@@ -1,0 +1,56 @@
+#include "surface/control.h"
+
+#include <algorithm>
+
+#include "surface/form.h"
+#include "surface/tabcontrol.h"
+
+namespace orvane {
+
+Place::Place(Control& theHolder) : form(theHolder.form()), holder(&theHolder) {}
+
+Place::Place(TabControl& theHolder, int theTab) : form(theHolder.form()), holder(&theHolder), tab(theTab) {}
+
+Control::Control(Place place, std::string name) : place_(place), name_(std::move(name)) { form().enrol(*this); }
+
+std::string Control::id() const { return index_ ? name_ + "(" + std::to_string(*index_) + ")" : name_; }
+
+std::optional<Value> Control::property(std::string_view name) const {
+  for (auto& candidate : properties())
+    if (candidate.name == name) return std::move(candidate.value);
+  return std::nullopt;
+}
+
+std::optional<std::string> Control::unreachable() const {
+  if (!visible_) return id() + " est caché.";
+  if (!enabled_) return id() + " est désactivé.";
+  if (!holder()) return std::nullopt;
+  if (const auto* tabs = dynamic_cast<const TabControl*>(holder()); tabs && tabs->Tab() != tab())
+    return id() + " se trouve sur l'onglet « " + tabs->TabCaption(tab()) + " », qui n'est pas affiché.";
+  return holder()->unreachable();
+}
+
+namespace {
+
+[[noreturn]] void refuse(const Control& control, std::string_view act) {
+  throw Refusal{control.id() + " (" + std::string(control.kind()) + ") : " + std::string(act) +
+                " n'y est pas possible."};
+}
+
+}  // namespace
+
+PreparedAct Control::prepareClick() { refuse(*this, "cliquer"); }
+PreparedAct Control::prepareType(std::string) { refuse(*this, "taper un texte"); }
+PreparedAct Control::preparePick(const Entry&) { refuse(*this, "choisir une entrée"); }
+PreparedAct Control::prepareRow(const Entry&) { refuse(*this, "cliquer une ligne"); }
+PreparedAct Control::prepareToggle(const Entry&) { refuse(*this, "cocher une ligne"); }
+PreparedAct Control::prepareEdit(const Entry&, std::string) { refuse(*this, "modifier un nom"); }
+PreparedAct Control::prepareScroll(int) { refuse(*this, "faire défiler"); }
+
+void Control::unwatch(ControlObserver& observer) { std::erase(observers_, &observer); }
+
+void Control::changed() {
+  for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i]->controlChanged(*this);
+}
+
+}  // namespace orvane

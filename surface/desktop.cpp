@@ -1,0 +1,143 @@
+#include "surface/desktop.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "surface/failure.h"
+
+namespace orvane {
+
+// Forms that are unloaded inside it stay alive to its end.
+class Desktop::Scope {
+ public:
+  explicit Scope(Desktop& desktop) : desktop_(desktop) { desktop_.enter(); }
+  ~Scope() { desktop_.leave(); }
+  Scope(const Scope&) = delete;
+  Scope& operator=(const Scope&) = delete;
+
+ private:
+  Desktop& desktop_;
+};
+
+bool runsHandlers(const Control& control) { return !control.form().wasUnloaded(); }
+
+HandlerScope::HandlerScope(Control& control) : desktop_(control.form().desktop()) { desktop_.enter(); }
+HandlerScope::~HandlerScope() { desktop_.leave(); }
+
+Desktop::~Desktop() { observers_.clear(); }
+
+void Desktop::leave() {
+  if (--depth_ > 0) return;
+  // A destructor may unload further forms.
+  while (!unloaded_.empty()) {
+    const auto dead = std::move(unloaded_);
+    unloaded_.clear();
+  }
+}
+
+Answer Desktop::MsgBox(const std::string& prompt, BoxStyle style, const std::string& title) {
+  return world_.dialogs.MsgBox(prompt, style, title);
+}
+
+void Desktop::Arrange(Arrangement arrangement) {
+  tell([&](DesktopObserver& observer) { observer.arrange(arrangement); });
+}
+
+void Desktop::load(Form& form) {
+  if (form.state_ != Form::State::Fresh) return;
+  Scope scope(*this);
+  form.state_ = Form::State::Loaded;
+  forms_.push_back(form.shared_from_this());
+  runLoad(form);
+}
+
+void Desktop::runLoad(Form& form) {
+  try {
+    form.Form_Load();
+  } catch (...) {
+    // A form that could not be loaded is no form: nothing half-made stays in Forms.
+    unload(form);
+    throw;
+  }
+}
+
+void Desktop::show(Form& form) {
+  Scope scope(*this);
+  load(form);
+  if (!form.isLoaded()) return;
+  form.visible_ = true;
+  tell([&](DesktopObserver& observer) { observer.shown(form); });
+  if (form.role() == Form::Role::Child) activate(form);
+}
+
+void Desktop::showModal(Form& form) {
+  Scope scope(*this);
+  load(form);
+  if (!form.isLoaded()) return;
+  form.visible_ = true;
+  modals_.push_back(&form);
+  world_.dialogs.runModal(form);
+  std::erase(modals_, &form);
+  unload(form);
+}
+
+void Desktop::unload(Form& form) {
+  if (!form.isLoaded()) return;
+  Scope scope(*this);
+  if (form.role() == Form::Role::Frame) closeChildren();
+  // Whatever goes wrong at its end, the form closes.
+  perform([&] { form.Form_Unload(); });
+  const bool wasActive = activeChild() == &form;
+  form.state_ = Form::State::Unloaded;
+  form.visible_ = false;
+  std::erase(activation_, &form);
+  std::erase(modals_, &form);
+  const auto place = std::find_if(forms_.begin(), forms_.end(), [&](auto& other) { return other.get() == &form; });
+  unloaded_.push_back(*place);
+  forms_.erase(place);
+  form.unloaded();
+  tell([&](DesktopObserver& observer) { observer.unloaded(form); });
+  if (wasActive) activateLast();
+}
+
+void Desktop::closeChildren() {
+  closing_ = true;
+  const auto open = forms_;
+  for (const auto& form : open)
+    if (form->role() != Form::Role::Frame) unload(*form);
+  closing_ = false;
+}
+
+void Desktop::activateLast() {
+  if (closing_ || activation_.empty()) return;
+  Form& next = *activation_.back();
+  tell([&](DesktopObserver& observer) { observer.activated(next); });
+  next.Form_Activate();
+}
+
+void Desktop::activate(Form& form) {
+  if (form.role() != Form::Role::Child || !form.isLoaded() || activeChild() == &form) return;
+  Scope scope(*this);
+  std::erase(activation_, &form);
+  activation_.push_back(&form);
+  activateLast();
+}
+
+void Desktop::perform(const std::function<void()>& act) {
+  Scope scope(*this);
+  try {
+    act();
+  } catch (const Failure& failure) {
+    world_.dialogs.failure(failure.what());
+  } catch (const std::exception& error) {
+    world_.dialogs.failure(std::string("Erreur interne : ") + error.what());
+  }
+}
+
+void Desktop::unwatch(DesktopObserver& observer) { std::erase(observers_, &observer); }
+
+void Desktop::tell(const std::function<void(DesktopObserver&)>& news) {
+  for (std::size_t i = 0; i < observers_.size(); ++i) news(*observers_[i]);
+}
+
+}  // namespace orvane

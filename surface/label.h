@@ -1,0 +1,34 @@
+#pragma once
+
+#include "surface/control.h"
+
+namespace orvane {
+
+class Label : public Control {
+ public:
+  struct Design {
+    std::string caption = {};
+    std::string tag = {};
+  };
+
+  Label(Place place, std::string name) : Label(place, std::move(name), Design()) {}
+
+  Label(Place place, std::string name, Design design);
+
+  const std::string& Caption() const { return caption_; }
+  void setCaption(std::string caption) { store(caption_, std::move(caption)); }
+  const std::string& Tag() const { return tag_; }
+
+  Event<> Click{*this};
+
+  std::string_view kind() const override { return "étiquette"; }
+  PropertyList properties() const override;
+  bool takesFocus() const override { return false; }
+  PreparedAct prepareClick() override;
+
+ private:
+  std::string caption_;
+  std::string tag_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,31 @@
+#include "surface/optionbutton.h"
+
+#include "surface/form.h"
+
+namespace orvane {
+
+OptionButton::OptionButton(Place place, std::string name, Design design)
+    : Control(place, std::move(name)), caption_(std::move(design.caption)), tag_(std::move(design.tag)) {}
+
+void OptionButton::setValue(bool value) {
+  if (value_ == value) return;
+  if (value) clearGroup();
+  store(value_, value);
+  if (value) Click.fire();
+}
+
+void OptionButton::clearGroup() {
+  for (auto* control : form().controls())
+    if (control->holder() == holder())
+      if (auto* other = dynamic_cast<OptionButton*>(control)) other->store(other->value_, false);
+}
+
+PropertyList OptionButton::properties() const {
+  return {{"Value", value_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
+}
+
+PreparedAct OptionButton::prepareClick() {
+  return [this] { setValue(true); };
+}
+
+}  // namespace orvane
