@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "data/record_line.h"
+
+namespace orvane {
+
+// The lines of one data file. They end in LF or CR LF; a last line without a line end counts.
+class DataFile {
+ public:
+  // Skips the title line; fails where there is none, in an empty file.
+  DataFile(std::string name, std::string bytes);
+  DataFile(const DataFile&) = delete;
+  DataFile& operator=(const DataFile&) = delete;
+
+  // The next line, valid as long as this object; nothing behind the last one.
+  std::optional<RecordLine> readline();
+
+ private:
+  std::string_view cutLine();
+
+  std::string name_;
+  std::string bytes_;
+  std::string_view rest_;
+  std::int32_t number_ = 1;
+};
+
+}  // namespace orvane

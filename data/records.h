@@ -1,0 +1,110 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "surface/collection.h"
+
+// The records of the game. Plain values: nothing is checked here, every member starts empty, 0 or false.
+namespace orvane {
+
+struct clsEthnie {
+  std::string sName;
+  std::int16_t iMaxD = 0;
+};
+
+struct clsGrade {
+  std::int16_t iSalaire = 0;
+  std::string sName;
+  std::string sDescro;
+};
+
+// A contact of one character; no file holds these.
+struct clsContact {
+  std::string sName;
+  std::int16_t iInfo = 0;
+  std::int16_t iReact = 0;
+  std::string sDescro;
+};
+
+struct clsProfil {
+  std::string sName;
+  // The profile also brings the skills of the profile "Assermenté".
+  bool bAsserm = false;
+  // Keys of skills; 101 stands for the skill of the favourite vehicle.
+  Collection<double> colSkillPro;
+  std::string sDescro;
+
+  // A copy whose list can be changed without touching this one.
+  std::shared_ptr<clsProfil> Duplicate() const;
+};
+
+struct clsSkill {
+  std::int16_t iKey = 0;
+  std::string sName;
+  std::int16_t iStart = 0;
+  std::string sDescro;
+};
+
+struct clsMutation {
+  std::string sCateg;
+  std::string sSign;
+  std::string sName;
+  std::string sDescro;
+  std::int16_t iNum = 0;
+};
+
+struct clsMartialTechnic {
+  std::string sName;
+  // "o" offensive, "d" defensive.
+  std::string sType;
+  std::string sDescro;
+  std::int16_t iKey = 0;
+  // Taken by the character; only ever true on private copies.
+  bool bSelected = false;
+
+  // A copy without the key, which only the loading of the data needs.
+  std::shared_ptr<clsMartialTechnic> Duplicate() const;
+};
+
+// The techniques of one art. A read-only art hands out read-only techniques.
+class colMartialTechnic {
+ public:
+  // Stores this very record, no copy of it.
+  void Add(std::shared_ptr<clsMartialTechnic> ucMartialTechnic) { technics_.Add(std::move(ucMartialTechnic)); }
+
+  // These fail with a position outside 1 to Count().
+  const std::shared_ptr<clsMartialTechnic>& Item(std::int32_t position) { return technics_.Item(position); }
+  std::shared_ptr<const clsMartialTechnic> Item(std::int32_t position) const { return technics_.Item(position); }
+  const std::shared_ptr<clsMartialTechnic>& operator()(std::int32_t position) { return Item(position); }
+  std::shared_ptr<const clsMartialTechnic> operator()(std::int32_t position) const { return Item(position); }
+  void Remove(std::int32_t position) { technics_.Remove(position); }
+
+  std::int32_t Count() const { return technics_.Count(); }
+
+  auto begin() { return technics_.begin(); }
+  auto end() { return technics_.end(); }
+
+ private:
+  Collection<std::shared_ptr<clsMartialTechnic>> technics_;
+};
+
+struct clsMartialArt {
+  std::string sName;
+  std::int16_t iRestrictO = 0;
+  std::int16_t iRestrictD = 0;
+  std::string sDescro;
+  orvane::colMartialTechnic colMartialTechnic;
+
+  // A deep copy: every technique is a new record, private to the copy.
+  std::shared_ptr<clsMartialArt> Duplicate() const;
+};
+
+struct clsDistrict {
+  std::string sName;
+  std::string sDescro;
+};
+
+}  // namespace orvane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The code page of the data files: one byte a character.
+namespace orvane {
+
+// Whether the byte stands for a character; 81, 8D, 8F, 90 and 9D do not.
+bool inWindows1252(char byte);
+
+// The bytes as UTF-8. Every byte must be in the code page.
+std::string fromWindows1252(std::string_view bytes);
+
+}  // namespace orvane

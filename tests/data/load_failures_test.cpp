@@ -1,0 +1,161 @@
+#include <random>
+
+#include "data/return_marker.h"
+#include "tests/data/load_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+TEST_F(LoadData, AFailureNamesThePlaceWhatStandsThereAndWhatWasExpected) {
+  const std::string error = "0|Tessaly|error : fichier ";
+  const std::string integer = "attendu un nombre entier de -32768 à 32767";
+  const std::string alone = ", sans rien derrière, pas même « ; ».";
+  const std::string separator = "attendu « ; » à la fin du champ.";
+  const struct {
+    std::string file, text, message;
+  } cases[] = {
+      {"ethnie", "", "ethnie.txt, ligne 1, fichier vide : attendu une ligne de titre."},
+      {"ethnie", "\nA;1\n\nB;2\n", "ethnie.txt, ligne 3, champ 1 (sName, nom de l'ethnie) : trouvé rien, " + separator},
+      {"ethnie", "\nNordique;3;\n",
+       "ethnie.txt, ligne 2, champ 2 (iMaxD, nombre de l'ethnie) : trouvé « 3; », " + integer + alone},
+      {"ethnie", "\nNordique;\n",
+       "ethnie.txt, ligne 2, champ 2 (iMaxD, nombre de l'ethnie) : trouvé rien, " + integer + alone},
+      {"ethnie", "\nNordique;3\r",
+       "ethnie.txt, ligne 2, champ 2 (iMaxD, nombre de l'ethnie) : trouvé « 3<0D> », " + integer + alone},
+      {"grade", "\n2,5;Officier;\n",
+       "grade.txt, ligne 2, champ 1 (iSalaire, salaire) : trouvé « 2,5 », " + integer + "."},
+      {"grade", "\n1;Officier\n",
+       "grade.txt, ligne 2, champ 2 (sName, nom du grade) : trouvé « Officier », " + separator},
+      {"profil", "\nP;oui;;\n",
+       "profil.txt, ligne 2, champ 2 (bAsserm, profil assermenté ou non) : trouvé « oui », attendu True, False, Vrai, "
+       "Faux ou un nombre."},
+      {"profil", "\nP;True;Texte\n",
+       "profil.txt, ligne 2, champ 3 (sDescro, description) : trouvé « Texte », " + separator},
+      {"profil", "\nP;True;Texte;3;12\n",
+       "profil.txt, ligne 2, champ 5 (colSkillPro, clé d'une compétence du profil) : trouvé « 12 », " + separator},
+      {"profil", "\nP;True;Texte;1e999;\n",
+       "profil.txt, ligne 2, champ 4 (colSkillPro, clé d'une compétence du profil) : trouvé « 1e999 », attendu un "
+       "nombre "
+       "moins grand."},
+      {"skill", "\n1;A;0;\n32767.5;B;0;\n",
+       "skill.txt, ligne 3, champ 1 (iKey, clé de la compétence) : trouvé « 32767.5 », " + integer + "."},
+      {"mutation", "\nAlpha;Plus;un;Peau;\n",
+       "mutation.txt, ligne 2, champ 3 (iNum, numéro du pouvoir) : trouvé « un », " + integer + "."},
+      {"martial_technic", "\nA;o;;\n",
+       "martial_technic.txt, ligne 2, champ 3 (iKey, clé de la technique) : trouvé rien, " + integer + "."},
+      {"martial_art", "\nA;0;0;;4;-32769;\n",
+       "martial_art.txt, ligne 2, champ 6 (colMartialTechnic, clé d'une technique de l'art) : trouvé « -32769 », "
+       "attendu "
+       "une clé de -32768 à 32767."},
+      {"district", "\n" + std::string(41, 'x') + "\n",
+       "district.txt, ligne 2, champ 1 (sName, nom du quartier) : trouvé « " + std::string(40, 'x') + "… », " +
+           separator},
+  };
+  for (const auto& wrong : cases) EXPECT_EQ(messageFor(wrong.file, wrong.text), error + wrong.message);
+}
+
+TEST_F(LoadData, AByteWithoutACharacterIsReportedOutsideTheTitle) {
+  for (const char byte : {'\x81', '\x8D', '\x8F', '\x90', '\x9D'}) {
+    put("ethnie", std::string("T") + byte + "\nA;1\n");
+    EXPECT_EQ(load(), Log{});
+  }
+  const std::string place = "0|Tessaly|error : fichier district.txt, ligne 2, champ 2 (sDescro, description) : trouvé ";
+  const std::string expected = ", attendu un texte en Windows-1252, qui n'a pas de caractère <";
+  EXPECT_EQ(messageFor("district", "\nPort;Pr\x81s d'ici\n"), place + "« Pr<81>s d'ici »" + expected + "81>.");
+  EXPECT_EQ(messageFor("district", "\nPort;" + std::string(100, 'x') + "\x9D" + std::string(100, 'y') + "\n"),
+            place + "« …" + std::string(20, 'x') + "<9D>" + std::string(19, 'y') + "… »" + expected + "9D>.");
+  EXPECT_EQ(
+      messageFor("profil", "\nAssermenté;0;;3;4\x8F;\n"),
+      "0|Tessaly|error : fichier profil.txt, ligne 2, champ 5 (colSkillPro, clé d'une compétence du profil) : trouvé "
+      "« 4<8F> »" +
+          expected + "8F>.");
+}
+
+TEST_F(LoadData, AFailureEndsTheReadingAndKeepsWhatWasComplete) {
+  put("mutation", "\nAlpha;Plus;1;A;\nAlpha;Plus;2;B;\nAlpha;Plus;x;C;\nAlpha;Plus;4;D;\n");
+  EXPECT_EQ(load().size(), 1u);
+  EXPECT_EQ(counts(), (std::vector{1, 1, 2, 1, 2, 0, 0}));
+
+  put("mutation", "\n");
+  put("martial_art", "\nBoxe;0;0;;4;\nLutte;0;0;;77;99999;\nSavate;0;0;;\n");
+  ASSERT_EQ(load().size(), 2u);
+  EXPECT_EQ(dialogs.log[0], "48|Tessaly|Il existe une technique martiale inconnue dans Lutte");
+  EXPECT_EQ(counts(), (std::vector{1, 1, 2, 1, 0, 1, 0}));
+
+  // The profile "Assermenté" is only missed in a file that was read to its end.
+  put("profil", "\nPilote;0;;\nGarde\n");
+  EXPECT_EQ(load().size(), 1u);
+  EXPECT_EQ(counts(), (std::vector{1, 1, 1, 0, 0, 0, 0}));
+}
+
+TEST_F(LoadData, AFileThatCannotBeReadEndsTheReadingWithItsReason) {
+  files.broken.insert("./skill.txt");
+  EXPECT_EQ(load(), (Log{"0|Tessaly|error : Accès refusé : ./skill.txt."}));
+  EXPECT_EQ(counts(), (std::vector{1, 1, 2, 0, 0, 0, 0}));
+}
+
+TEST(ReturnMarker, BecomesALineEndWhereverItStands) {
+  LoggedDialogs dialogs;
+  EXPECT_EQ(prcReturnToCrLf("", dialogs), "");
+  EXPECT_EQ(prcReturnToCrLf("[return]a[return][return]b[return]", dialogs), "\r\na\r\n\r\nb\r\n");
+  EXPECT_EQ(prcReturnToCrLf("[RETURN] [return[return] [re[return]turn]", dialogs), "[RETURN] [return\r\n [re\r\nturn]");
+  EXPECT_EQ(dialogs.log, Log{});
+}
+
+bool isUtf8Text(const std::string& text) {
+  for (std::size_t i = 0; i < text.size();) {
+    const auto lead = static_cast<unsigned char>(text[i]);
+    const std::size_t length = lead < 0x80 ? 1 : lead < 0xC0 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 0;
+    if (length == 0 || i + length > text.size()) return false;
+    for (std::size_t k = 1; k < length; ++k)
+      if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80) return false;
+    i += length;
+  }
+  return true;
+}
+
+// One to eight places changed, taken out or doubled.
+void damage(std::string& bytes, std::mt19937& random) {
+  const std::string_view likely = ";\n\r0-.e\x81\x9D[]";
+  for (auto times = 1 + random() % 8; times > 0 && !bytes.empty(); --times) {
+    const auto at = random() % bytes.size();
+    switch (random() % 4) {
+      case 0:
+        bytes[at] = static_cast<char>(random() % 256);
+        break;
+      case 1:
+        bytes[at] = likely[random() % likely.size()];
+        break;
+      case 2:
+        bytes.erase(at, 1 + random() % 10);
+        break;
+      default:
+        bytes.insert(at, bytes.substr(at, random() % 20));
+        break;
+    }
+  }
+}
+
+TEST_F(LoadData, DamagedFilesAreReadOrReportedAndNeverMore) {
+  const auto sound = files.contents;
+  int failures = 0;
+  for (const unsigned start : {1u, 2u, 3u}) {
+    std::mt19937 random(start);
+    for (int round = 0; round < 400; ++round) {
+      files.contents = sound;
+      for (auto& [path, bytes] : files.contents)
+        if (random() % 4 == 0) damage(bytes, random);
+      for (const auto& message : load()) {
+        EXPECT_TRUE(isUtf8Text(message)) << message;
+        failures += message.starts_with("0|Tessaly|error : fichier ");
+      }
+      EXPECT_LE(data.iProfilAsserm, data.colProfil.Count());
+      for (const auto& district : data.colDistrict) EXPECT_TRUE(isUtf8Text(district->sName + district->sDescro));
+    }
+  }
+  EXPECT_GT(failures, 100);
+  EXPECT_LT(failures, 1100);
+}
+
+}  // namespace
+}  // namespace orvane::test
