@@ -7,6 +7,7 @@
 
 #include "data/data_file.h"
 #include "data/record_formats.h"
+#include "surface/desktop.h"
 #include "surface/failure.h"
 
 namespace orvane {
@@ -32,7 +33,7 @@ class Loader {
     eachLine("district.txt", [&](RecordLine& line) { data_.colDistrict.Add(readDistrict(line, dialogs_)); });
   }
 
-  void tell(const std::string& prompt, BoxStyle style) { dialogs_.MsgBox(prompt, style, "Tessaly"); }
+  void tell(const std::string& prompt, BoxStyle style) { dialogs_.MsgBox(prompt, style, std::string(App::Title)); }
 
  private:
   // False where there is no such file, which is told.

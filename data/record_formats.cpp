@@ -1,6 +1,7 @@
 #include "data/record_formats.h"
 
 #include "data/return_marker.h"
+#include "surface/desktop.h"
 
 namespace orvane {
 
@@ -67,7 +68,8 @@ std::shared_ptr<clsMartialArt> readMartialArt(RecordLine& line, const TechnicFin
     if (found)
       art->colMartialTechnic.Add(std::move(found));
     else
-      dialogs.MsgBox("Il existe une technique martiale inconnue dans " + art->sName, BoxStyle::Exclamation, "Tessaly");
+      dialogs.MsgBox("Il existe une technique martiale inconnue dans " + art->sName, BoxStyle::Exclamation,
+                     std::string(App::Title));
   }
   return art;
 }

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "surface/desktop.h"
 #include "surface/text.h"
 
 namespace orvane {
@@ -20,7 +21,8 @@ std::string prcReturnToCrLf(std::string_view sText, Dialogs& dialogs) {
     }
     return result.append(sText);
   } catch (const std::bad_alloc&) {
-    dialogs.MsgBox("Erreur durant la lecture du texte " + std::string(sText), BoxStyle::Critical, "Tessaly");
+    dialogs.MsgBox("Erreur durant la lecture du texte " + std::string(sText), BoxStyle::Critical,
+                   std::string(App::Title));
     return {};
   }
 }
