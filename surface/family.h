@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <deque>
-#include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "surface/control.h"
 #include "surface/failure.h"
@@ -17,7 +17,7 @@ class Family {
   Family(Place place, const std::string& name, int count, const typename C::Design& design = {}) : name_(name) {
     for (int i = 0; i < count; ++i) add(place, design);
   }
-  Family(Place place, const std::string& name, std::initializer_list<typename C::Design> designs) : name_(name) {
+  Family(Place place, const std::string& name, const std::vector<typename C::Design>& designs) : name_(name) {
     for (const auto& design : designs) add(place, design);
   }
 

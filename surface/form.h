@@ -23,7 +23,7 @@ class Form : public std::enable_shared_from_this<Form> {
   struct Design {
     std::string name;
     Role role = Role::Child;
-    std::string caption;
+    std::string caption = {};
     // Inside the window's frame, twips.
     float scaleWidth = 0;
     float scaleHeight = 0;

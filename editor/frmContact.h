@@ -1,0 +1,30 @@
+#pragma once
+
+#include "editor/globals.h"
+#include "surface/commandbutton.h"
+#include "surface/form.h"
+#include "surface/label.h"
+#include "surface/textbox.h"
+
+namespace orvane {
+
+// The dialog that takes the name and the description of a contact of frmCurrentPerso.
+class frmContact : public Form {
+ public:
+  explicit frmContact(Globals& globals);
+
+  Label Label19{*this, "Label19", {"Nom"}};
+  TextBox txtContactName{*this, "txtContactName"};
+  Label Label20{*this, "Label20", {"Description"}};
+  TextBox txtContactDescro{*this, "txtContactDescro"};
+  CommandButton OKButton{*this, "OKButton", {"&OK"}};
+  CommandButton CancelButton{*this, "CancelButton", {.caption = "&Cancel", .cancel = true}};
+
+ private:
+  void OKButton_Click();
+  void CancelButton_Click();
+
+  Globals& globals_;
+};
+
+}  // namespace orvane

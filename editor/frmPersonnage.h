@@ -1,0 +1,248 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "data/records.h"
+#include "editor/globals.h"
+#include "surface/checkbox.h"
+#include "surface/combobox.h"
+#include "surface/commandbutton.h"
+#include "surface/form.h"
+#include "surface/frame.h"
+#include "surface/label.h"
+#include "surface/listbox.h"
+#include "surface/listview.h"
+#include "surface/optionbutton.h"
+#include "surface/tabcontrol.h"
+#include "surface/textbox.h"
+
+namespace orvane {
+
+// The window of one character. Its controls are the character: a handler reads a value by reading its control.
+// Sorted by tab; each tab has its own source file.
+class frmPersonnage : public Form {
+ public:
+  explicit frmPersonnage(Globals& globals);
+
+  // The tabs, by position.
+  enum Tabs { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation };
+
+  // --- Around the tabs (frmPersonnage.cpp)
+  Label Label2{*this, "Label2", {"Nom Joueur"}};
+  TextBox txtJoueur{*this, "txtJoueur"};
+  CommandButton cmdPrintPreview{*this, "cmdPrintPreview", {"V&isualiser"}};
+  CommandButton cmdHelp{*this, "cmdHelp", {"&Aide"}};
+  CommandButton cmdClose{*this, "cmdClose", {"&Close"}};
+  TabControl SSTabPerso{*this,
+                        "SSTabPerso",
+                        {{"Etat Civil / Langues", "Caractéristiques", "Contacts", "Compétences", "Arts Martiaux",
+                          "Mutation", "Tab 6", "Tab 7"}}};
+  TextBox txtAllDescro{*this, "txtAllDescro", {.readOnly = true}};
+
+  // --- Civil status and languages (civil_status.cpp), profile and vehicle (profile.cpp)
+  Label Label1{onTab(EtatCivil), "Label1", {"Nom Personnage"}};
+  TextBox txtPerso{onTab(EtatCivil), "txtPerso"};
+  Label Label5{onTab(EtatCivil), "Label5", {"Age"}};
+  TextBox txtAge{onTab(EtatCivil), "txtAge"};
+  Label Label6{onTab(EtatCivil), "Label6", {"Taille (cm)"}};
+  TextBox txtTaille{onTab(EtatCivil), "txtTaille"};
+  Label Label9{onTab(EtatCivil), "Label9", {"Poids (kg)"}};
+  TextBox txtPoids{onTab(EtatCivil), "txtPoids"};
+  Label Label7{onTab(EtatCivil), "Label7", {"Sexe"}};
+  ComboBox cmbSexe{onTab(EtatCivil), "cmbSexe", {.items = {{"H"}, {"F"}}}};
+  Label Label8{onTab(EtatCivil), "Label8", {"lieu d'origine"}};
+  ComboBox cmbDistrict{onTab(EtatCivil), "cmbDistrict", {.editable = true}};
+  Label Label13{onTab(EtatCivil), "Label13", {"Ethnie"}};
+  ComboBox cmbEthnie{onTab(EtatCivil), "cmbEthnie"};
+  Label Label12{onTab(EtatCivil), "Label12", {"Profil"}};
+  ComboBox cmbProfil{onTab(EtatCivil), "cmbProfil"};
+  Label lblGrade{onTab(EtatCivil), "lblGrade", {"Grade"}};
+  ComboBox cmbGrade{onTab(EtatCivil), "cmbGrade"};
+  Label Label14{onTab(EtatCivil), "Label14", {"Cheveux"}};
+  TextBox txtCheveux{onTab(EtatCivil), "txtCheveux"};
+  Label Label15{onTab(EtatCivil), "Label15", {"Yeux"}};
+  TextBox txtYeux{onTab(EtatCivil), "txtYeux"};
+  Label lblVehicle{onTab(EtatCivil), "lblVehicle", {"Véhicule de prédilection"}};
+  // The data of an entry is the position of its skill in colSkill.
+  ComboBox cmbVehicle{onTab(EtatCivil),
+                      "cmbVehicle",
+                      {.editable = true, .items = {{"Voiture", 18}, {"Moto", 16}, {"Hélicoptère", 44}}}};
+  Frame frmLangue{onTab(EtatCivil), "frmLangue", {"Langues"}};
+  Label Label18{frmLangue, "Label18", {"Points restants"}};
+  TextBox txtLangRest{frmLangue, "txtLangRest"};
+  Family<TextBox> txtLang{frmLangue, "txtLang", 3};
+  Family<OptionButton> optLang{frmLangue, "optLang", {{"Anglais"}, {"Espagnol"}, {}}};
+  TextBox txtOtherLang{frmLangue, "txtOtherLang"};
+  Family<CommandButton> cmdLangModif{frmLangue, "cmdLangModif", {leftArrow, rightArrow}};
+
+  // --- Characteristics (characteristics.cpp)
+  Label Label21{onTab(Caracteristiques), "Label21", {"Points restants"}};
+  TextBox txtCaractRest{onTab(Caracteristiques), "txtCaractRest", {.readOnly = true}};
+  Family<OptionButton> optCaract{onTab(Caracteristiques), "optCaract", characteristicDesigns()};
+  Family<TextBox> txtCaract{onTab(Caracteristiques), "txtCaract", 8, {.readOnly = true}};
+  Family<CommandButton> cmdCaractModif{onTab(Caracteristiques), "cmdCaractModif", {leftArrow, rightArrow}};
+  Family<Label> lblSecondCaract{onTab(Caracteristiques), "lblSecondCaract", secondaryDesigns()};
+  TextBox txtEV{onTab(Caracteristiques), "txtEV", {.readOnly = true}};
+  TextBox txtR{onTab(Caracteristiques), "txtR", {.readOnly = true}};
+  TextBox txtSF{onTab(Caracteristiques), "txtSF", {.readOnly = true}};
+
+  // --- Contacts (contacts.cpp)
+  Label Label11{onTab(Contacts), "Label11", {"Points restants"}};
+  TextBox txtContactRest{onTab(Contacts), "txtContactRest", {.readOnly = true}};
+  ListBox lstContact{onTab(Contacts), "lstContact"};
+  CommandButton cmdContactNew{onTab(Contacts), "cmdContactNew", {"&Nouveau"}};
+  CommandButton cmdContactChange{onTab(Contacts), "cmdContactChange", {"&Changer"}};
+  CommandButton cmdContactDel{onTab(Contacts), "cmdContactDel", {"&Supprimer"}};
+  Label Label20{onTab(Contacts), "Label20", {"Description"}};
+  TextBox txtContactDescro{onTab(Contacts), "txtContactDescro", {.readOnly = true}};
+  Family<OptionButton> optContact{onTab(Contacts), "optContact", {{"Information"}, {"Réaction"}}};
+  Family<TextBox> txtContact{onTab(Contacts), "txtContact", 2, {.readOnly = true}};
+  Family<CommandButton> cmdContactModif{onTab(Contacts), "cmdContactModif", {leftArrow, rightArrow}};
+
+  // --- Skills (skills.cpp)
+  Label Label4{onTab(Competences), "Label4", {"Points restants"}};
+  TextBox txtSkillRest{onTab(Competences), "txtSkillRest"};
+  ListView lvwSkillGen{onTab(Competences), "lvwSkillGen", {.width = 6000, .labelEdit = true}};
+  Family<CommandButton> cmdSkillGenModif{onTab(Competences), "cmdSkillGenModif", {leftArrow, rightArrow}};
+  Label Label22{onTab(Competences), "Label22", {"Profil"}};
+  Label txtSkillPro{onTab(Competences), "txtSkillPro"};
+
+  // --- Martial arts (martial_arts.cpp)
+  Label Label23{onTab(ArtsMartiaux), "Label23", {"Points restants"}};
+  TextBox txtMartialArtRest{onTab(ArtsMartiaux), "txtMartialArtRest", {.readOnly = true}};
+  Family<CommandButton> cmdMartialArtModif{onTab(ArtsMartiaux), "cmdMartialArtModif", {leftArrow, rightArrow}};
+  ListView lvwMartialArt{onTab(ArtsMartiaux), "lvwMartialArt", {.width = 5400}};
+  ListView lvwMartialTechnic{onTab(ArtsMartiaux), "lvwMartialTechnic", {.width = 4200, .checkBoxes = true}};
+  Label Label27{onTab(ArtsMartiaux), "Label27", {"Nombre de techniques encore à choisir pour cet art martial"}};
+  TextBox txtMartialTechnicRest{onTab(ArtsMartiaux), "txtMartialTechnicRest", {.readOnly = true}};
+
+  // --- Mutation (mutation.cpp)
+  CheckBox chkMuta{onTab(Mutation), "chkMuta", {"Avec pouvoir mutant", 1}};
+  CommandButton cmdMutaRandomChoice{onTab(Mutation), "cmdMutaRandomChoice", {"Tirage aléatoire du pouvoir"}};
+  Label Label24{onTab(Mutation), "Label24", {"Catégorie"}};
+  ComboBox cmbMutaCateg{onTab(Mutation), "cmbMutaCateg", {.items = {{"Alpha"}, {"Bêta"}, {"Epsilon"}, {"Psy"}}}};
+  Label lblMutaSign{onTab(Mutation), "lblMutaSign", {"Signe"}};
+  ComboBox cmbMutaSign{onTab(Mutation), "cmbMutaSign", {.editable = true, .items = {{"Plus"}, {"Moins"}}}};
+  Label Label25{onTab(Mutation), "Label25", {"Pouvoir"}};
+  ComboBox cmbMutaName{onTab(Mutation), "cmbMutaName"};
+  Label lblCatDescro{onTab(Mutation), "lblCatDescro"};
+  Label Label26{onTab(Mutation), "Label26", {"Signe particulier"}};
+  TextBox txtParticulSign{onTab(Mutation), "txtParticulSign"};
+
+  // In the order of their creation; the names in lstContact are the only link to that list.
+  Collection<std::shared_ptr<clsContact>> colContact;
+  // Position in colContact of the selected contact, 0 when there is none.
+  std::int16_t iContactSel = 0;
+  // This character's private copy of the martial arts, in the order of colMartialArt.
+  Collection<std::shared_ptr<clsMartialArt>> colPersoArt;
+
+  // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
+  bool prcValidate();
+  // True for a row that the skill columns of the sheet leave out (skills.cpp).
+  bool prcSkillNotOnSheet(const ListItem& itm) const;
+
+ protected:
+  void Form_Load() override;
+  void Form_Activate() override;
+  void unloaded() override;
+
+ private:
+  Place onTab(int tab) { return {SSTabPerso, tab}; }
+  static std::vector<OptionButton::Design> characteristicDesigns();
+  static std::vector<Label::Design> secondaryDesigns();
+
+  // --- Around the tabs
+  void wire();
+  void fillGrades();
+  void fillProfiles();
+  void fillEthnicGroups();
+  void fillDistricts();
+  void resetLanguages();
+  void resetCharacteristics();
+  void resetContacts();
+  void resetMutation();
+  void setSkillColumns();
+  void setMartialColumns();
+  void copyMartialArts();
+  void addMartialRows();
+  void SSTabPerso_Click(std::int16_t PreviousTab);
+  void enterEtatCivil();
+  void enterCaracteristiques();
+  void enterContacts();
+  void enterCompetences();
+  void enterArtsMartiaux();
+  void enterMutation();
+  void txtPerso_LostFocus();
+  bool otherWindowHasCaption(const std::string& caption) const;
+  void cmdPrintPreview_Click();
+  void cmdHelp_Click();
+  void cmdClose_Click();
+
+  // --- Civil status and languages
+  void cmbDistrict_Click();
+  void cmbDistrict_Change();
+  void cmbGrade_Click();
+  void optLang_Click(std::int16_t Index);
+  void cmdLangModif_Click(std::int16_t Index);
+  void txtOtherLang_GotFocus();
+  void prcLangDegréDescro();
+
+  // --- Characteristics
+  void cmdCaractModif_Click(std::int16_t Index);
+  void txtCaract_Change(std::int16_t Index);
+  void optCaract_Click(std::int16_t Index);
+  void lblSecondCaract_Click(std::int16_t Index);
+  bool wouldBeThirdNegative() const;
+  void stepCaract(std::int16_t Index);
+  void enableSelectableCaracts();
+
+  // --- Contacts
+  void cmdContactNew_Click();
+  void cmdContactChange_Click();
+  void cmdContactDel_Click();
+  void cmdContactModif_Click(std::int16_t Index);
+  void cmdContactModif_LostFocus(std::int16_t Index);
+  void lstContact_Click();
+  void optContact_Click(std::int16_t Index);
+  void txtContactDescro_LostFocus();
+
+  // --- Profile application
+  void cmbProfil_Click();
+  void cmbVehicle_Click();
+
+  // --- Skills
+  void lvwSkillGen_ItemClick(ListItemRef Item);
+  void cmdSkillGenModif_Click(std::int16_t Index);
+  void lvwSkillGen_BeforeLabelEdit(bool& Cancel);
+  void lvwSkillGen_AfterLabelEdit(bool& Cancel, std::string& NewString);
+
+  // --- Martial arts
+  void cmdMartialArtModif_Click(std::int16_t Index);
+  void lvwMartialArt_ItemClick(ListItemRef Item);
+  void lvwMartialTechnic_ItemClick(ListItemRef Item);
+  void lvwMartialTechnic_ItemCheck(ListItemRef Item);
+
+  // --- Mutation
+  void chkMuta_Click();
+  void cmbMutaCateg_Click();
+  void cmbMutaName_Click();
+  void cmbMutaSign_Change();
+  void cmdMutaRandomChoice_Click();
+  void prcMutaNameChange();
+
+  Globals& globals_;
+  const ReferenceData& data_;
+  // The selected characteristic, language and contact value, by index.
+  std::int16_t iCaractSel = 0;
+  std::int16_t iLangSel = 0;
+  std::int16_t iContactOpt = 0;
+  // The row last clicked, which the arrow buttons act on.
+  ListItemRef itmSkillSel;
+  // One-shot: makes the next cmbVehicle_Click or chkMuta_Click do nothing but clear it.
+  bool iProfilChanging = false;
+};
+
+}  // namespace orvane
