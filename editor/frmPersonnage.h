@@ -210,20 +210,47 @@ class frmPersonnage : public Form {
   void txtContactDescro_LostFocus();
 
   // --- Profile application
+  // Private copies of the profiles that are applied: the chosen one, then "Assermenté" where it asks for it.
+  using ProfileCopies = std::vector<std::shared_ptr<clsProfil>>;
+  enum class VehicleCode { Absent, Replaced, Repeated };
   void cmbProfil_Click();
   void cmbVehicle_Click();
+  void resetSkillSide();
+  void closeSkillSide();
+  ProfileCopies copyProfiles() const;
+  VehicleCode replaceVehicleCode(const ProfileCopies& profiles);
+  void replaceVehicleCode(clsProfil& profile);
+  void resetMartialArts();
+  bool buildSkillList(const ProfileCopies& profiles);
+  bool addProfileSkill(const clsSkill& skill);
+  bool addMartialSkillLevels(ListItem& row);
+  ListItemRef addSkillRow(const clsSkill& skill, const std::string& level, bool ofProfile);
+  bool paySkillPoints(double cost);
+  void warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill);
+  void showFirstSkill();
+  void openSkillSide(const clsProfil& chosen);
+  void setGrade(bool sworn);
+  void setVehicle(bool usesVehicle);
 
   // --- Skills
   void lvwSkillGen_ItemClick(ListItemRef Item);
   void cmdSkillGenModif_Click(std::int16_t Index);
   void lvwSkillGen_BeforeLabelEdit(bool& Cancel);
   void lvwSkillGen_AfterLabelEdit(bool& Cancel, std::string& NewString);
+  const clsSkill* skillOf(const ListItem& row) const;
+  bool stepSkillDown(ListItem& row, double lowest);
+  void stepSkillUp(ListItem& row, double highest);
 
   // --- Martial arts
   void cmdMartialArtModif_Click(std::int16_t Index);
   void lvwMartialArt_ItemClick(ListItemRef Item);
   void lvwMartialTechnic_ItemClick(ListItemRef Item);
   void lvwMartialTechnic_ItemCheck(ListItemRef Item);
+  clsMartialArt& artOf(const ListItem& row) const;
+  clsMartialTechnic& technicOf(const ListItem& row) const;
+  int addTechnicRows(const ListItem& artRow);
+  void takeMartialPoint(ListItem& row);
+  void putMartialPoint(ListItem& row);
 
   // --- Mutation
   void chkMuta_Click();
@@ -232,6 +259,10 @@ class frmPersonnage : public Form {
   void cmbMutaSign_Change();
   void cmdMutaRandomChoice_Click();
   void prcMutaNameChange();
+  void takePowerBack();
+  void giveUpPower();
+  void enablePowerChoice(bool enabled);
+  void drawPower();
 
   Globals& globals_;
   const ReferenceData& data_;

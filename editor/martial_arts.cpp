@@ -1,0 +1,105 @@
+#include "editor/frmPersonnage.h"
+#include "editor/martial_restrict.h"
+#include "editor/numbers_in_controls.h"
+
+namespace orvane {
+namespace {
+
+double points(const ListItem& row) { return numericPrefix(row.SubItems(2)); }
+void setPoints(ListItem& row, double value) { row.setSubItems(2, numberText(value)); }
+
+bool belongsTo(const clsMartialTechnic& technic, const ListItem& artRow) {
+  return (technic.sType == "o" && artRow.SubItems(1) == "Offensif") ||
+         (technic.sType == "d" && artRow.SubItems(1) == "Défensif");
+}
+
+}  // namespace
+
+clsMartialArt& frmPersonnage::artOf(const ListItem& row) const {
+  return *colPersoArt(toInt16(strictNumber(row.SubItems(3))));
+}
+
+// Of a row of lvwMartialTechnic, which shows the techniques of the selected row of lvwMartialArt.
+clsMartialTechnic& frmPersonnage::technicOf(const ListItem& row) const {
+  return *artOf(*lvwMartialArt.SelectedItem()).colMartialTechnic(toInt16(strictNumber(row.SubItems(1))));
+}
+
+void frmPersonnage::enterArtsMartiaux() {
+  if (const ListItemRef selected = lvwMartialArt.SelectedItem()) {
+    lvwMartialArt_ItemClick(selected);
+    txtAllDescro.setText(colPersoArt(toInt16(numericPrefix(selected->SubItems(3))))->sDescro);
+  } else {
+    lvwMartialTechnic.Clear();
+    txtMartialTechnicRest.setText("");
+    txtAllDescro.setText("");
+  }
+}
+
+void frmPersonnage::cmdMartialArtModif_Click(std::int16_t Index) {
+  const ListItemRef row = lvwMartialArt.SelectedItem();
+  if (!row)
+    txtAllDescro.setText("!!! Pas d'art martial sélectionné !!!");
+  else if (Index == 0)
+    takeMartialPoint(*row);
+  else
+    putMartialPoint(*row);
+}
+
+void frmPersonnage::takeMartialPoint(ListItem& row) {
+  if (points(row) == 0) return;
+  if (!prcMartialRestrict(globals_, row, -1)) return;
+  if (points(row) <= lvwMartialTechnic.Count()) {
+    if (number(txtMartialTechnicRest) == 0)
+      return txtAllDescro.setText("!!! Retirer d'abord une technique martial pour libérer un point !!!");
+    add(txtMartialTechnicRest, -1);
+  }
+  add(txtMartialArtRest, 1);
+  setPoints(row, points(row) - 1);
+}
+
+void frmPersonnage::putMartialPoint(ListItem& row) {
+  if (number(txtMartialArtRest) == 0) return;
+  if (!prcMartialRestrict(globals_, row, 1)) return;
+  // A point above the number of techniques buys none.
+  if (points(row) < lvwMartialTechnic.Count()) add(txtMartialTechnicRest, 1);
+  add(txtMartialArtRest, -1);
+  setPoints(row, points(row) + 1);
+}
+
+void frmPersonnage::lvwMartialArt_ItemClick(ListItemRef Item) {
+  Item->select();
+  lvwMartialTechnic.Clear();
+  const int checked = addTechnicRows(*Item);
+  txtMartialTechnicRest.setText(Item->SubItems(2));
+  if (number(txtMartialTechnicRest) > lvwMartialTechnic.Count())
+    setNumber(txtMartialTechnicRest, lvwMartialTechnic.Count());
+  add(txtMartialTechnicRest, -checked);
+  txtAllDescro.setText(artOf(*Item).sDescro);
+}
+
+// Gives the number of checked rows.
+int frmPersonnage::addTechnicRows(const ListItem& artRow) {
+  auto& technics = artOf(artRow).colMartialTechnic;
+  int checked = 0;
+  for (std::int32_t i = 1; i <= technics.Count(); ++i) {
+    if (!belongsTo(*technics(i), artRow)) continue;
+    const auto row = lvwMartialTechnic.Add();
+    row->setText(technics(i)->sName);
+    row->setSubItems(1, std::to_string(i));
+    row->setChecked(technics(i)->bSelected);
+    checked += row->Checked();
+  }
+  return checked;
+}
+
+void frmPersonnage::lvwMartialTechnic_ItemClick(ListItemRef Item) { txtAllDescro.setText(technicOf(*Item).sDescro); }
+
+void frmPersonnage::lvwMartialTechnic_ItemCheck(ListItemRef Item) {
+  Item->select();
+  lvwMartialTechnic_ItemClick(Item);
+  if (Item->Checked() && number(txtMartialTechnicRest) <= 0) return Item->setChecked(false);
+  add(txtMartialTechnicRest, Item->Checked() ? -1 : 1);
+  technicOf(*Item).bSelected = Item->Checked();
+}
+
+}  // namespace orvane

@@ -1,0 +1,71 @@
+#include "editor/martial_restrict.h"
+
+#include <cmath>
+#include <optional>
+
+#include "editor/frmPersonnage.h"
+#include "surface/desktop.h"
+#include "surface/numbers.h"
+#include "surface/text.h"
+
+namespace orvane {
+namespace {
+
+double fullGroups(std::int16_t points, std::int16_t term) { return std::floor(static_cast<double>(points) / term); }
+
+std::int16_t pointsOf(const ListItem& row) { return toInt16(strictNumber(row.SubItems(2))); }
+
+// Offensive and defensive points of one art, as far as they are known.
+struct ArtPoints {
+  std::optional<std::int16_t> iO;
+  std::optional<std::int16_t> iD;
+
+  // The place for the points of a row; none for a row of an unknown direction.
+  std::optional<std::int16_t>* of(const ListItem& row) {
+    if (row.SubItems(1) == "Offensif") return &iO;
+    if (row.SubItems(1) == "Défensif") return &iD;
+    return nullptr;
+  }
+};
+
+// The row that changes keeps its new points, the other row of its art gives its present ones.
+void addPresentPoints(ArtPoints& points, const ListView& arts, const ListItem& Item) {
+  for (const auto& row : arts.rows()) {
+    if (row->SubItems(3) != Item.SubItems(3)) continue;
+    auto* place = points.of(*row);
+    if (place && !*place) *place = pointsOf(*row);
+  }
+}
+
+bool error(Globals& globals, const char* message) {
+  globals.desktop.MsgBox(message, BoxStyle::Critical);
+  return false;
+}
+
+}  // namespace
+
+bool restrictionAllows(std::int16_t RO, std::int16_t RD, std::int16_t iO, std::int16_t iD) {
+  const double offensive = fullGroups(iO, RO);
+  const double defensive = fullGroups(iD, RD);
+  return RO < RD ? defensive >= offensive : offensive >= defensive;
+}
+
+bool prcMartialRestrict(Globals& globals, const ListItem& Item, std::int16_t iDelta) {
+  frmPersonnage& perso = *globals.frmCurrentPerso;
+  const auto& art = *perso.colPersoArt(toInt16(strictNumber(Item.SubItems(3))));
+  if (art.iRestrictO == 0 || art.iRestrictD == 0) return true;
+
+  ArtPoints points;
+  auto* changing = points.of(Item);
+  if (!changing) return error(globals, "Error : type of Martial Art unknown.");
+  *changing = toInt16(strictNumber(Item.SubItems(2)) + iDelta);
+  addPresentPoints(points, perso.lvwMartialArt, Item);
+  if (!points.iO || !points.iD) return error(globals, "Error : Values for 2 Martial technic types not found.");
+
+  if (restrictionAllows(art.iRestrictO, art.iRestrictD, *points.iO, *points.iD)) return true;
+  perso.txtAllDescro.setText("!!! Vous devez tenir compte des restrictions en vigueur !!!" + std::string(crLf) +
+                             std::string(crLf) + art.sDescro);
+  return false;
+}
+
+}  // namespace orvane

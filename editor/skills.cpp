@@ -1,0 +1,82 @@
+#include "data/reference_data.h"
+#include "editor/frmPersonnage.h"
+#include "editor/numbers_in_controls.h"
+#include "editor/skill_rules.h"
+#include "surface/text.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::size_t longestSkillName = 25;
+
+double level(const ListItem& row) { return numericPrefix(row.SubItems(1)); }
+double key(const ListItem& row) { return numericPrefix(row.SubItems(2)); }
+
+}  // namespace
+
+const clsSkill* frmPersonnage::skillOf(const ListItem& row) const {
+  for (const auto& skill : data_.colSkill)
+    if (skill->iKey == key(row)) return skill.get();
+  return nullptr;
+}
+
+void frmPersonnage::enterCompetences() {
+  if (!itmSkillSel) return;
+  if (const auto* skill = skillOf(*itmSkillSel)) txtAllDescro.setText(skill->sDescro);
+}
+
+void frmPersonnage::lvwSkillGen_ItemClick(ListItemRef Item) {
+  Item->select();
+  itmSkillSel = Item;
+  if (const auto* skill = skillOf(*Item)) txtAllDescro.setText(skill->sDescro);
+}
+
+void frmPersonnage::cmdSkillGenModif_Click(std::int16_t Index) {
+  if (!itmSkillSel) return txtAllDescro.setText("!!! Pas de compétence sélectionnée !!!");
+  ListItem& row = *itmSkillSel;
+  const auto limits = levelLimits(*skillOf(row), row.Bold());
+  if (Index != 0)
+    stepSkillUp(row, limits.highest);
+  else if (!stepSkillDown(row, limits.lowest))
+    return;
+  if (key(row) == martialSkillKey) SSTabPerso.setTabEnabled(ArtsMartiaux, level(row) != 0);
+}
+
+// False when the martial-art point that the level brought is spent: the level then has to stay.
+bool frmPersonnage::stepSkillDown(ListItem& row, double lowest) {
+  if (level(row) <= lowest) return true;
+  if (key(row) == martialSkillKey) {
+    if (number(txtMartialArtRest) == 0) {
+      txtAllDescro.setText("!!! Plus de point restant en arts martiaux à retirer !!!");
+      return false;
+    }
+    add(txtMartialArtRest, -1);
+  }
+  add(txtSkillRest, 1);
+  row.setSubItems(1, numberText(level(row) - 1));
+  if (level(row) == lowest) row.ListSubItems(1).setForeColor(Colour::Red);
+  return true;
+}
+
+void frmPersonnage::stepSkillUp(ListItem& row, double highest) {
+  if (level(row) >= highest || number(txtSkillRest) <= 0) return;
+  add(txtSkillRest, -1);
+  row.setSubItems(1, numberText(level(row) + 1));
+  row.ListSubItems(1).setForeColor(Colour::Green);
+  if (key(row) == martialSkillKey) add(txtMartialArtRest, 1);
+}
+
+void frmPersonnage::lvwSkillGen_BeforeLabelEdit(bool& Cancel) {
+  if (!isNamedByPlayer(lvwSkillGen.SelectedItem()->SubItems(2))) Cancel = true;
+}
+
+void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
+  if (characterCount(NewString) > longestSkillName) NewString = firstCharacters(NewString, longestSkillName);
+}
+
+bool frmPersonnage::prcSkillNotOnSheet(const ListItem& itm) const {
+  if (itm.SubItems(2) == std::to_string(martialSkillKey)) return true;
+  return isNamedByPlayer(itm.SubItems(2)) && level(itm) <= skillOf(itm)->iStart;
+}
+
+}  // namespace orvane
