@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "editor/globals.h"
 #include "surface/commandbutton.h"
 #include "surface/form.h"
@@ -23,6 +25,13 @@ class frmContact : public Form {
  private:
   void OKButton_Click();
   void CancelButton_Click();
+  bool isFilled(const TextBox& box, const std::string& complaint);
+  bool nameIsTaken() const;
+  void addContact();
+  void changeContact();
+  void inform(const std::string& prompt);
+  // The window that opened the dialog.
+  frmPersonnage& character() const;
 
   Globals& globals_;
 };

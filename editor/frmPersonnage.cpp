@@ -148,9 +148,7 @@ void frmPersonnage::resetContacts() {
   txtContactRest.setText("14");
   colContact = {};
   for (auto& value : txtContact) value.setText("0");
-  cmdContactChange.setEnabled(false);
-  cmdContactDel.setEnabled(false);
-  for (auto& arrow : cmdContactModif) arrow.setEnabled(false);
+  enableContactButtons(false);
 }
 
 void frmPersonnage::resetMutation() {

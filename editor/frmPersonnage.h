@@ -21,6 +21,8 @@
 
 namespace orvane {
 
+struct Verdict;
+
 // The window of one character. Its controls are the character: a handler reads a value by reading its control.
 // Sorted by tab; each tab has its own source file.
 class frmPersonnage : public Form {
@@ -139,6 +141,8 @@ class frmPersonnage : public Form {
   // This character's private copy of the martial arts, in the order of colMartialArt.
   Collection<std::shared_ptr<clsMartialArt>> colPersoArt;
 
+  // The four buttons that act on a selected contact (contacts.cpp).
+  void enableContactButtons(bool enabled);
   // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
   bool prcValidate();
   // True for a row that the skill columns of the sheet leave out (skills.cpp).
@@ -208,6 +212,13 @@ class frmPersonnage : public Form {
   void lstContact_Click();
   void optContact_Click(std::int16_t Index);
   void txtContactDescro_LostFocus();
+  void askContact(const std::string& name, const std::string& description, const std::string& caption);
+  std::int16_t contactPosition(const std::string& name) const;
+  void stepContactDown(TextBox& value);
+  void stepContactUp(TextBox& value);
+  void reportContactFaults();
+  void refund(std::int16_t& value);
+  void leaveNoContact();
 
   // --- Profile application
   // Private copies of the profiles that are applied: the chosen one, then "Assermenté" where it asks for it.
@@ -263,6 +274,13 @@ class frmPersonnage : public Form {
   void giveUpPower();
   void enablePowerChoice(bool enabled);
   void drawPower();
+
+  // --- Validation
+  void checkFields(Verdict& verdict);
+  void repairAge();
+  bool otherLanguageLacksItsName() const;
+  void checkSkillNames(Verdict& verdict);
+  void checkMartialArts(Verdict& verdict);
 
   Globals& globals_;
   const ReferenceData& data_;
