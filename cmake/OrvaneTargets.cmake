@@ -1,5 +1,3 @@
-include(GoogleTest)
-
 # What every target of ours is compiled with.
 add_library(orvane_build INTERFACE)
 target_compile_options(orvane_build INTERFACE
@@ -29,6 +27,7 @@ function(orvane_tests folder)
   if(NOT sources)
     return()
   endif()
+  include(GoogleTest)
   add_executable(${folder}_tests ${sources})
   target_link_libraries(${folder}_tests PRIVATE ${ARGN} GTest::gtest_main GTest::gmock)
   target_compile_definitions(${folder}_tests PRIVATE ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")

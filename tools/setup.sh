@@ -1,0 +1,24 @@
+# Sourced by ./run, ./test and .ci/run: install_packages installs what is missing of the named Debian packages.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6-dev libicu-dev fonts-liberation)
+test_packages=(libgtest-dev libgmock-dev)
+
+install_packages() {
+  local missing=() package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# configure_and_build PRESET [CMAKE --build ARGUMENT...]
+configure_and_build() {
+  local preset=$1; shift
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" "$@"
+}
