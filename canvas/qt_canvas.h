@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QImage>
+
+#include "surface/world.h"
+
+namespace orvane {
+
+// A picture of 15 twips a pixel. Its pixels are shared with the picture it was made from until it is printed on.
+class QtCanvas : public Canvas {
+ public:
+  explicit QtCanvas(const QImage& picture);
+
+  float width() const override;
+  float height() const override;
+  void setFont(const std::string& name, float points) override;
+  float TextWidth(std::string_view text) const override;
+  float TextHeight(std::string_view text) const override;
+  // The place is rounded to whole pixels.
+  void print(std::string_view text, float x, float y) override;
+  // 24 bits a pixel, uncompressed, 3780 pixels per metre.
+  std::string bitmap() const override;
+
+  const QImage& image() const { return image_; }
+
+ private:
+  QImage image_;
+  QFont font_;
+  QFontMetricsF metrics_;
+};
+
+}  // namespace orvane
