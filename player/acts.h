@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "player/operands.h"
+#include "player/script.h"
+
+namespace orvane {
+
+class Stage;
+
+// A kind of act: how it is written, and what it does. Playing throws a Refusal where a user could not do it.
+struct ActKind {
+  std::string_view name;
+  std::vector<Operand> operands;
+  void (*play)(Stage& stage, const Act& act);
+};
+
+// Null for a name that no act has.
+const ActKind* actNamed(std::string_view name);
+
+}  // namespace orvane

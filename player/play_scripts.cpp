@@ -1,0 +1,66 @@
+#include "player/play_scripts.h"
+
+#include <iterator>
+
+#include "player/script_parser.h"
+#include "surface/failure.h"
+
+namespace orvane {
+namespace {
+
+constexpr int done = 0;
+constexpr int notAllDone = 1;
+constexpr int notPlayed = 2;
+
+const std::string standardInput = "-";
+
+struct CommandLine {
+  bool keepGoing = false;
+  std::vector<std::string> files;
+};
+
+CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
+  CommandLine line;
+  for (const auto& argument : arguments) {
+    if (argument == "--keep-going")
+      line.keepGoing = true;
+    else if (argument.starts_with('-') && argument != standardInput)
+      throw ScriptError{"option inconnue : " + argument + "\nusage : orvane-batch [--keep-going] [SCRIPT...]"};
+    else
+      line.files.push_back(argument);
+  }
+  if (line.files.empty()) line.files.push_back(standardInput);
+  return line;
+}
+
+std::string readScript(const std::string& file, std::istream& in, Files& files) {
+  if (file == standardInput) return {std::istreambuf_iterator<char>(in), {}};
+  try {
+    return files.read(file);
+  } catch (const Failure& failure) {
+    throw ScriptError{file + ": " + failure.what()};
+  }
+}
+
+int play(const CommandLine& line, std::istream& in, std::ostream& out, PlayerParts parts) {
+  std::vector<Script> scripts;
+  for (const auto& file : line.files) scripts.push_back(parseScript(file, readScript(file, in, parts.files)));
+  return ScriptPlayer(out, parts, line.keepGoing).play(scripts) ? done : notAllDone;
+}
+
+}  // namespace
+
+int playScripts(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err,
+                PlayerParts parts) {
+  try {
+    const int status = play(parseCommandLine(arguments), in, out, parts);
+    if (out) return status;
+    err << "orvane-batch: la transcription n'a pas pu être écrite\n";
+    return notAllDone;
+  } catch (const ScriptError& error) {
+    err << error.message << '\n';
+    return notPlayed;
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "player/script_player.h"
+
+namespace orvane {
+
+// The command line of the player, without the name of the program: [--keep-going] [SCRIPT...], "-" or no script for
+// standard input. Scripts are read through the files of the parts; out gets the transcript. Gives the exit status: 0
+// all acts were done; 1 some were not as wished; 2 the command line is wrong or a script cannot be read or parsed,
+// which is told on err before anything is played.
+int playScripts(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err,
+                PlayerParts parts);
+
+}  // namespace orvane

@@ -1,0 +1,76 @@
+#include "player/script_parser.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <unicode/ustring.h>
+
+#include "player/acts.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+// Cuts the next line off the rest, without its line end.
+std::string_view nextLine(std::string_view& rest) {
+  const auto end = std::min(rest.find('\n'), rest.size());
+  std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(std::min(end + 1, rest.size()));
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
+bool isUtf8(std::string_view text) {
+  std::int32_t units = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  u_strFromUTF8(nullptr, 0, &units, text.data(), static_cast<std::int32_t>(text.size()), &status);
+  return status != U_INVALID_CHAR_FOUND;
+}
+
+std::string usage(const ActKind& kind) {
+  std::string shown = "« " + std::string(kind.name) + " » s'écrit : " + std::string(kind.name);
+  for (const Operand operand : kind.operands) shown += " <" + std::string(operandName(operand)) + ">";
+  return shown;
+}
+
+bool takesMany(const ActKind& kind) { return !kind.operands.empty() && kind.operands.back() == Operand::Answer; }
+
+void takeOperands(Act& act, const std::vector<Word>& words) {
+  const auto& operands = act.kind->operands;
+  const std::size_t count = words.size() - 1;
+  if (count < operands.size() || (count > operands.size() && !takesMany(*act.kind))) throw LineError{usage(*act.kind)};
+  for (std::size_t i = 0; i < count; ++i) takeOperand(act, operands[std::min(i, operands.size() - 1)], words[i + 1]);
+}
+
+Act parseAct(const std::vector<Word>& words) {
+  Act act;
+  if (!words.front().quoted) act.kind = actNamed(words.front().text);
+  if (!act.kind) throw LineError{"acte inconnu « " + words.front().text + " »"};
+  takeOperands(act, words);
+  return act;
+}
+
+void parseLine(Script& script, std::string_view line, int number) {
+  if (!isUtf8(line)) throw LineError{"la ligne n'est pas en UTF-8"};
+  if (line.starts_with('#')) return;
+  const auto words = scriptWords(line);
+  if (words.empty()) return;
+  script.acts.push_back(parseAct(words));
+  script.acts.back().line = number;
+}
+
+}  // namespace
+
+Script parseScript(const std::string& file, std::string_view bytes) {
+  Script script{file, {}};
+  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
+  int number = 0;
+  try {
+    while (!bytes.empty()) parseLine(script, nextLine(bytes), ++number);
+  } catch (const LineError& error) {
+    throw ScriptError{file + ":" + std::to_string(number) + ": " + error.reason};
+  }
+  return script;
+}
+
+}  // namespace orvane

@@ -1,0 +1,55 @@
+#include "player/script_player.h"
+
+#include "player/acts.h"
+#include "shell/frmMain.h"
+
+namespace orvane {
+
+ScriptPlayer::ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing)
+    : transcript_(out),
+      dialogs_(transcript_),
+      clock_(parts.timeOfDay),
+      run_({dialogs_, clock_, settings_, parts.files, parts.pictures}),
+      stage_(run_.desktop(), transcript_, dialogs_, clock_),
+      keepGoing_(keepGoing) {
+  dialogs_.playModal = [this](Form& form) { playModal(form); };
+}
+
+bool ScriptPlayer::play(const std::vector<Script>& scripts) {
+  if (!scripts.empty()) transcript_.moveTo(scripts.front().file, 0);
+  run_.Main();
+  for (const auto& script : scripts) playScript(script);
+  if (frmMain* window = run_.mainWindow()) stage_.user().close(*window);
+  return !transcript_.hasFaults();
+}
+
+void ScriptPlayer::playScript(const Script& script) {
+  script_ = &script;
+  next_ = 0;
+  while (playNext()) {
+  }
+  dialogs_.dropAnswers();
+}
+
+bool ScriptPlayer::playNext() {
+  if (stopped() || next_ == script_->acts.size()) return false;
+  playAct(script_->acts[next_++]);
+  return true;
+}
+
+void ScriptPlayer::playAct(const Act& act) {
+  transcript_.moveTo(script_->file, act.line);
+  try {
+    act.kind->play(stage_, act);
+  } catch (const Refusal& refusal) {
+    transcript_.refused(refusal.reason);
+  }
+}
+
+void ScriptPlayer::playModal(Form& form) {
+  while (form.isLoaded() && playNext()) {
+  }
+  if (form.isLoaded()) stage_.user().close(form);
+}
+
+}  // namespace orvane

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <vector>
+
+#include "player/no_settings.h"
+#include "player/player_clock.h"
+#include "player/player_dialogs.h"
+#include "player/script.h"
+#include "player/stage.h"
+#include "shell/main_procedure.h"
+
+namespace orvane {
+
+// The parts of the outside world that the player does not bring itself.
+struct PlayerParts {
+  Files& files;
+  Pictures& pictures;
+  Clock& timeOfDay;
+};
+
+// One run of the system that scripts are played in, one after another.
+class ScriptPlayer {
+ public:
+  ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing);
+
+  // Starts the system, plays, and closes it. False when an act was refused, an expectation failed or a failure reached
+  // no handler. Once only.
+  bool play(const std::vector<Script>& scripts);
+
+ private:
+  void playScript(const Script& script);
+  // False at the end of the script, or of the run.
+  bool playNext();
+  void playAct(const Act& act);
+  void playModal(Form& form);
+  bool stopped() const { return !keepGoing_ && transcript_.hasRefusals(); }
+
+  Transcript transcript_;
+  PlayerDialogs dialogs_;
+  PlayerClock clock_;
+  NoSettings settings_;
+  Run run_;
+  Stage stage_;
+  bool keepGoing_;
+  const Script* script_ = nullptr;
+  std::size_t next_ = 0;
+};
+
+}  // namespace orvane

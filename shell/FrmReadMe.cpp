@@ -1,0 +1,33 @@
+#include "shell/FrmReadMe.h"
+
+#include "shell/rich_text.h"
+#include "surface/desktop.h"
+#include "surface/failure.h"
+
+namespace orvane {
+namespace {
+
+const std::string fileName = "ReadMe.rtf";
+
+}  // namespace
+
+FrmReadMe::FrmReadMe(Desktop& desktop) : Form(desktop, {.name = "FrmReadMe", .caption = "Help File"}) {
+  on(cmdClose.Click, &FrmReadMe::cmdClose_Click);
+}
+
+void FrmReadMe::Form_Load() {
+  if (!desktop().world().files.fileExists(fileName)) {
+    rtbReadMe.setText("Fichier " + fileName + " manquant.");
+    return;
+  }
+  try {
+    rtbReadMe.LoadFile(fileName);
+    readRichText(rtbReadMe.TextRTF());
+  } catch (const Failure& failure) {
+    rtbReadMe.setText("Fichier " + fileName + " illisible : " + failure.what());
+  }
+}
+
+void FrmReadMe::cmdClose_Click() { Unload(); }
+
+}  // namespace orvane
