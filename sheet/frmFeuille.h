@@ -87,7 +87,14 @@ class frmFeuille : public Form {
 
   PictureBox& shownPicture();
 
+  // The steps of the save.
+  bool confirmed();
+  bool mayOverwrite();
+  void printDrawnPower();
+
   Globals& globals_;
+  // A drawn power was put on the front; a print cannot be taken back, nor done again over itself.
+  bool drawnPowerPrinted_ = false;
 };
 
 }  // namespace orvane

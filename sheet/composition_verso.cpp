@@ -1,0 +1,90 @@
+#include "sheet/composition_sides.h"
+#include "sheet/equipment_text.h"
+#include "sheet/line_marker.h"
+#include "sheet/prcPrintInShape.h"
+#include "surface/numbers.h"
+#include "surface/text.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::int16_t skillGap = 60;  // twips
+constexpr std::int16_t equipmentGap = 50;
+constexpr int skillColumns = 3;
+
+std::string martialArtText(const ListItem& row, const frmPersonnage& perso) {
+  std::string text = row.Text() + " :" + row.SubItems(1) + std::string(crLf);
+  const auto& art = *perso.colPersoArt(static_cast<std::int32_t>(numericPrefix(row.SubItems(3))));
+  for (std::int32_t i = 1; i <= art.colMartialTechnic.Count(); ++i)
+    if (const auto technic = art.colMartialTechnic(i); technic->bSelected) text += technic->sName + " / ";
+  return text + std::string(lineMarker) + std::string(lineMarker);
+}
+
+void printMartialArts(frmFeuille& sheet, const frmPersonnage& perso) {
+  std::string sTemp;
+  for (const auto& row : perso.lvwMartialArt.rows())
+    if (numericPrefix(row->SubItems(2)) > 0) sTemp += martialArtText(*row, perso);
+  prcPrintInShape(sTemp, sheet.pctVerso, sheet.shpMartialArt, 0, 0);
+}
+
+// Names and levels side by side. Each level has a line end behind it, which holds it to the right edge of its box.
+class SkillPrinter {
+ public:
+  explicit SkillPrinter(frmFeuille& sheet) : sheet_(sheet) {}
+
+  void add(const ListItem& row) {
+    sNames_ += row.Text() + std::string(crLf);
+    sValues_ += row.SubItems(1) + std::string(crLf);
+  }
+
+  void endColumn(int column) {
+    prcPrintInShape(std::move(sNames_), sheet_.pctVerso, sheet_.shpNames(column), 0, skillGap);
+    prcPrintInShape(std::move(sValues_), sheet_.pctVerso, sheet_.shpValues(column), 1, skillGap);
+    sNames_.clear();
+    sValues_.clear();
+  }
+
+ private:
+  frmFeuille& sheet_;
+  std::string sNames_;
+  std::string sValues_;
+};
+
+std::vector<ListItemRef> shownSkills(const frmPersonnage& perso) {
+  std::vector<ListItemRef> shown;
+  for (const auto& row : perso.lvwSkillGen.rows())
+    if (!perso.prcSkillNotOnSheet(*row)) shown.push_back(row);
+  return shown;
+}
+
+// The last column takes what is left of a division by three.
+void printSkills(frmFeuille& sheet, const std::vector<ListItemRef>& skills) {
+  const std::size_t rows = skills.size() / skillColumns;
+  const std::size_t iColBreak1 = rows + 1;
+  const std::size_t iColBreak2 = 2 * rows + 1;
+  SkillPrinter printer(sheet);
+  for (std::size_t iRow = 1; iRow <= skills.size(); ++iRow) {
+    if (iRow == iColBreak1) printer.endColumn(0);
+    if (iRow == iColBreak2) printer.endColumn(1);
+    printer.add(*skills[iRow - 1]);
+  }
+  printer.endColumn(2);
+}
+
+// Only sworn officers have a grade, and are issued equipment.
+void printEquipment(frmFeuille& sheet, const frmPersonnage& perso) {
+  const bool issued = perso.cmbGrade.Enabled();
+  if (issued) setFontSizes(sheet, equipmentSize);
+  prcPrintInShape(issued ? equipmentText() : std::string(), sheet.pctVerso, sheet.shpMatos, 0,
+                  issued ? equipmentGap : std::int16_t{0});
+}
+
+}  // namespace
+
+void composeVerso(frmFeuille& sheet, const frmPersonnage& perso) {
+  printMartialArts(sheet, perso);
+  printSkills(sheet, shownSkills(perso));
+  printEquipment(sheet, perso);
+}
+
+}  // namespace orvane
