@@ -76,14 +76,21 @@ void Desktop::showModal(Form& form) {
   if (!form.isLoaded()) return;
   form.visible_ = true;
   modals_.push_back(&form);
-  world_.dialogs.runModal(form);
-  std::erase(modals_, &form);
+  try {
+    world_.dialogs.runModal(form);
+  } catch (...) {
+    // Nothing could close it any more, and it would block all others.
+    unload(form);
+    throw;
+  }
   unload(form);
 }
 
 void Desktop::unload(Form& form) {
-  if (!form.isLoaded()) return;
+  // What closes already, closes once, also where its own Form_Unload asks for it again.
+  if (form.state_ != Form::State::Loaded) return;
   Scope scope(*this);
+  form.state_ = Form::State::Closing;
   if (form.role() == Form::Role::Frame) closeChildren();
   // Whatever goes wrong at its end, the form closes.
   perform([&] { form.Form_Unload(); });

@@ -53,8 +53,8 @@ class Form : public std::enable_shared_from_this<Form> {
   void Unload();
   // Paints at once.
   void Refresh();
-  // From the start of Load to Unload.
-  bool isLoaded() const { return state_ == State::Loaded; }
+  // From the start of Load to the end of Unload.
+  bool isLoaded() const { return state_ == State::Loaded || state_ == State::Closing; }
   bool wasUnloaded() const { return state_ == State::Unloaded; }
   bool isVisible() const { return visible_; }
 
@@ -87,7 +87,7 @@ class Form : public std::enable_shared_from_this<Form> {
   friend class Control;
   friend class Desktop;
   friend class User;
-  enum class State { Fresh, Loaded, Unloaded };
+  enum class State { Fresh, Loaded, Closing, Unloaded };
 
   void enrol(Control& control) { controls_.push_back(&control); }
 

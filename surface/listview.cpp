@@ -8,6 +8,12 @@ namespace orvane {
 
 ListView::ListView(Place place, std::string name, Design design) : Control(place, std::move(name)), design_(design) {}
 
+ListView::~ListView() { releaseRows(); }
+
+void ListView::releaseRows() {
+  for (auto& row : rows_) row->list_ = nullptr;
+}
+
 void ListView::clearColumnHeaders() {
   columns_.clear();
   changed();
@@ -27,7 +33,7 @@ ListItemRef ListView::Add() {
 }
 
 void ListView::Clear() {
-  for (auto& row : rows_) row->list_ = nullptr;
+  releaseRows();
   rows_.clear();
   selected_.reset();
   changed();

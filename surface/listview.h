@@ -95,6 +95,8 @@ class ListView : public Control {
   ListView(Place place, std::string name) : ListView(place, std::move(name), Design()) {}
 
   ListView(Place place, std::string name, Design design);
+  // Rows that someone still holds let go of the list.
+  ~ListView() override;
 
   float Width() const { return design_.width; }
   bool checkBoxes() const { return design_.checkBoxes; }
@@ -138,6 +140,7 @@ class ListView : public Control {
   friend class ListItem;
 
   ListItemRef rowOf(const Entry& row) const;
+  void releaseRows();
   void clickRow(const ListItemRef& row);
   void toggle(const ListItemRef& row);
   std::string sortText(const ListItem& row) const;

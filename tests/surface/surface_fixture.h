@@ -1,0 +1,165 @@
+#pragma once
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "surface/checkbox.h"
+#include "surface/combobox.h"
+#include "surface/commandbutton.h"
+#include "surface/desktop.h"
+#include "surface/frame.h"
+#include "surface/label.h"
+#include "surface/listbox.h"
+#include "surface/listview.h"
+#include "surface/optionbutton.h"
+#include "surface/scrollbar.h"
+#include "surface/tabcontrol.h"
+#include "surface/textbox.h"
+#include "surface/user.h"
+#include "tests/support/test_world.h"
+
+namespace orvane::test {
+
+using Log = std::vector<std::string>;
+
+class Sample;
+using Hook = std::function<void(Sample&)>;
+
+// What the events of a form itself run.
+struct Hooks {
+  Hook load = {};
+  Hook activate = {};
+  Hook unload = {};
+};
+
+// A form with controls of every kind, which notes each event as "CONTROL.EVENT" and runs what a test hangs on it.
+class Sample : public Form {
+ public:
+  Sample(Desktop& desktop, Log& log, std::string caption, Role role, Hooks hooks)
+      : Form(desktop, {.name = "Sample", .role = role, .caption = std::move(caption)}),
+        log_(log),
+        hooks_(std::move(hooks)) {
+    noteFocus();
+    noteChanges();
+    noteClicks();
+  }
+  ~Sample() override { note("freed"); }
+
+  TextBox text{*this, "text"};
+  TextBox locked{*this, "locked", {.readOnly = true}};
+  ComboBox list{*this, "list", {.items = {{"un", 1}, {"deux", 2}, {"trois", 3}}}};
+  ComboBox combo{*this, "combo", {.editable = true, .items = {{"Port"}, {"Docks"}}}};
+  ListBox names{*this, "names"};
+  CheckBox check{*this, "check"};
+  ScrollBar bar{*this, "bar", {}};
+  CommandButton button{*this, "button"};
+  CommandButton other{*this, "other"};
+  Label label{*this, "label"};
+  ListView rows{*this, "rows", {.width = 1000, .checkBoxes = true, .labelEdit = true}};
+  TabControl tabs{*this, "tabs", {{"zéro", "une", "deux"}}};
+  Family<OptionButton> front{{tabs, 0}, "front", 2};
+  Family<OptionButton> back{{tabs, 1}, "back", 2};
+  Frame frame{{tabs, 0}, "frame"};
+  Family<OptionButton> framed{frame, "framed", 2};
+  TextBox deep{frame, "deep"};
+
+  // What the next events run, once noted; by the text that is noted.
+  std::function<void(const std::string&)> then;
+
+ protected:
+  void Form_Load() override { run("Form_Load", hooks_.load); }
+  void Form_Activate() override { run("Form_Activate", hooks_.activate); }
+  void Form_Unload() override { run("Form_Unload", hooks_.unload); }
+
+ private:
+  void note(const std::string& event) { log_.push_back(Caption() + ": " + event); }
+  void run(const std::string& event, const Hook& hook) {
+    note(event);
+    if (hook) hook(*this);
+  }
+  void happened(const std::string& event) {
+    note(event);
+    if (then) then(event);
+  }
+
+  void noteFocus() {
+    for (auto* control : controls()) {
+      control->GotFocus.handle([this, control] { happened(control->id() + ".GotFocus"); });
+      control->LostFocus.handle([this, control] { happened(control->id() + ".LostFocus"); });
+    }
+  }
+  void noteChanges() {
+    const auto change = [this](auto& control) {
+      control.Change.handle([this, &control] { happened(control.id() + ".Change"); });
+    };
+    change(text);
+    change(locked);
+    change(combo);
+    change(bar);
+    change(deep);
+  }
+  void noteClicks() {
+    const auto click = [this](auto& control) {
+      control.Click.handle([this, &control] { happened(control.id() + ".Click"); });
+    };
+    click(list);
+    click(combo);
+    click(names);
+    click(check);
+    click(button);
+    click(other);
+    click(label);
+    for (auto* family : {&front, &back, &framed})
+      for (auto& option : *family) click(option);
+    tabs.Click.handle([this](std::int16_t previous) { happened("tabs.Click(" + std::to_string(previous) + ")"); });
+    rows.ItemClick.handle([this](ListItemRef row) { happened("rows.ItemClick " + row->Text()); });
+    rows.ItemCheck.handle(
+        [this](ListItemRef row) { happened("rows.ItemCheck " + row->Text() + (row->Checked() ? "+" : "-")); });
+    rows.BeforeLabelEdit.handle([this](bool& cancel) {
+      happened("rows.BeforeLabelEdit");
+      cancel = rows.SelectedItem()->Bold();
+    });
+    rows.AfterLabelEdit.handle([this](bool& cancel, std::string& name) {
+      happened("rows.AfterLabelEdit " + name);
+      cancel = name.empty();
+      name += "!";
+    });
+  }
+
+  Log& log_;
+  Hooks hooks_;
+};
+
+class Surface : public testing::Test {
+ protected:
+  // Opens a window and gives it up to the desktop: it is freed as soon as it is closed.
+  Sample& open(std::string caption = "A", Form::Role role = Form::Role::Child, Hooks hooks = {}) {
+    const auto form = make(std::move(caption), role, std::move(hooks));
+    desktop.perform([&] { form->Show(); });
+    return *form;
+  }
+  std::shared_ptr<Sample> make(std::string caption, Form::Role role = Form::Role::Child, Hooks hooks = {}) {
+    return std::make_shared<Sample>(desktop, log, std::move(caption), role, std::move(hooks));
+  }
+
+  // What was noted since the last call.
+  Log noted() { return std::exchange(log, {}); }
+  Log told() { return std::exchange(outside.dialogs.log, {}); }
+  // The captions of the loaded forms.
+  Log openForms() const {
+    Log captions;
+    for (const auto& form : desktop.Forms()) captions.push_back(form->Caption());
+    return captions;
+  }
+
+  Log log;
+  TestWorld outside;
+  Desktop desktop{outside.world()};
+  User user{desktop};
+};
+
+}  // namespace orvane::test

@@ -1,0 +1,128 @@
+#include "tests/surface/surface_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+// What the code writes, and which handlers run inside the write.
+class Writes : public Surface {
+ protected:
+  Writes() { noted(); }
+  Sample& form = open();
+};
+
+TEST_F(Writes, AnEqualValueIsSilent) {
+  form.text.setText("5");
+  form.list.setListIndex(1);
+  form.check.setValue(1);
+  form.front(0).setValue(true);
+  form.tabs.setTab(2);
+  form.bar.setValue(3);
+  EXPECT_EQ(noted(), (Log{"A: text.Change", "A: list.Click", "A: check.Click", "A: front(0).Click", "A: tabs.Click(0)",
+                          "A: bar.Change"}));
+  form.text.setText("5");
+  form.list.setListIndex(1);
+  form.combo.setListIndex(-1);
+  form.names.setListIndex(-1);
+  form.check.setValue(1);
+  form.front(0).setValue(true);
+  form.tabs.setTab(2);
+  form.bar.setValue(3);
+  EXPECT_EQ(noted(), Log{});
+}
+
+TEST_F(Writes, AllButTheValueIsSilent) {
+  form.list.setListIndex(0);
+  form.names.AddItem("un");
+  form.names.setListIndex(0);
+  noted();
+
+  form.list.AddItem("quatre");
+  form.list.setItemData(3, 4);
+  form.list.Clear();
+  form.names.setList(0, "deux");
+  form.names.RemoveItem(0);
+  form.front(0).setValue(false);
+  form.label.setCaption("x");
+  form.setCaption("A");
+  form.tabs.setTabEnabled(1, false);
+  form.tabs.setTabVisible(2, false);
+  form.text.setBackColor(Colour::Red);
+  form.bar.setMax(4);
+  for (auto* control : form.controls()) {
+    control->setEnabled(false);
+    control->setVisible(false);
+  }
+  EXPECT_EQ(noted(), Log{});
+}
+
+TEST_F(Writes, HandlersRunInsideTheWrite) {
+  std::string seen;
+  form.then = [&](const std::string& event) {
+    if (event == "text.Change") form.list.setListIndex(2);
+    if (event == "list.Click") seen = form.text.Text() + form.list.Text();
+  };
+  form.text.setText("avant ");
+  EXPECT_EQ(seen, "avant trois");
+  EXPECT_EQ(noted(), (Log{"A: text.Change", "A: list.Click"}));
+}
+
+TEST_F(Writes, ClearingAComboSelectsNothing) {
+  form.list.setListIndex(1);
+  form.list.Clear();
+  EXPECT_EQ(form.list.ListIndex(), -1);
+  EXPECT_EQ(form.list.Text(), "");
+  form.list.AddItem("neuf");
+  EXPECT_EQ(form.list.NewIndex(), 0);
+  EXPECT_EQ(form.list.ListIndex(), -1);
+}
+
+TEST_F(Writes, OptionsUnderOneParentAreOneGroupAcrossTabs) {
+  form.framed(1).setValue(true);
+  form.front(1).setValue(true);
+  noted();
+  form.back(0).setValue(true);
+  EXPECT_FALSE(form.front(1).Value());
+  EXPECT_TRUE(form.framed(1).Value()) << "a frame makes a group of its own";
+  EXPECT_EQ(noted(), Log{"A: back(0).Click"}) << "only the one that is selected tells";
+}
+
+TEST_F(Writes, AnOptionOnADisabledTabIsStillWritten) {
+  form.tabs.setTabEnabled(1, false);
+  form.back(1).setValue(true);
+  EXPECT_TRUE(form.back(1).Value());
+  form.tabs.setTab(1);
+  EXPECT_EQ(form.tabs.Tab(), 1);
+}
+
+TEST_F(Writes, OutsideAListFailAndChangeNothing) {
+  form.list.setListIndex(1);
+  noted();
+  EXPECT_THROW(form.list.setListIndex(3), Failure);
+  EXPECT_THROW(form.list.setListIndex(-2), Failure);
+  EXPECT_THROW(form.list.ItemData(-1), Failure);
+  EXPECT_THROW(form.names.setListIndex(0), Failure);
+  EXPECT_THROW(form.names.RemoveItem(0), Failure);
+  EXPECT_THROW(form.tabs.setTab(3), Failure);
+  EXPECT_THROW(form.tabs.setTabEnabled(-1, true), Failure);
+  EXPECT_THROW(form.front(2), Failure);
+  EXPECT_EQ(form.list.ListIndex(), 1);
+  EXPECT_EQ(noted(), Log{});
+}
+
+TEST_F(Writes, ObserversHearOfEachChangeOnce) {
+  struct Counter : ControlObserver {
+    int count = 0;
+    void controlChanged(Control&) override { ++count; }
+  } counter;
+  form.text.watch(counter);
+  form.text.setText("a");
+  form.text.setText("a");
+  form.text.setEnabled(false);
+  EXPECT_EQ(counter.count, 2);
+  form.text.unwatch(counter);
+  form.text.setText("b");
+  EXPECT_EQ(counter.count, 2);
+}
+
+}  // namespace
+}  // namespace orvane::test
