@@ -280,6 +280,7 @@ class frmPersonnage : public Form {
   void repairAge();
   bool otherLanguageLacksItsName() const;
   void checkSkillNames(Verdict& verdict);
+  bool lacksItsName(const ListItem& row) const;
   void checkMartialArts(Verdict& verdict);
 
   Globals& globals_;

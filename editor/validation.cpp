@@ -1,9 +1,6 @@
-#include <array>
-#include <string_view>
-
-#include "data/reference_data.h"
 #include "editor/frmPersonnage.h"
 #include "editor/numbers_in_controls.h"
+#include "editor/skill_rules.h"
 #include "editor/verdict.h"
 #include "surface/desktop.h"
 
@@ -21,26 +18,9 @@ constexpr const char* incompleteText =
     "Attention, le personnage est valide mais incomplet.\r\n"
     "Les contraintes accessoires non valides sont indiquées en jaune.";
 
-// The skills whose names the user gives.
-constexpr std::array<std::string_view, 4> namedSkills{"56", "59", "57", "60"};
-
 bool isEmpty(const TextBox& box) { return box.Text().empty(); }
 bool isUnspent(const TextBox& pool) { return number(pool) > 0; }
 bool isOutOfAge(const TextBox& box) { return number(box) < youngest || number(box) > oldest; }
-
-bool isNamedSkill(const ListItem& row) {
-  for (const auto key : namedSkills)
-    if (row.SubItems(2) == key) return true;
-  return false;
-}
-
-// Bought, but not given a name of its own.
-bool lacksItsName(const ListItem& row, const ReferenceData& data) {
-  for (const auto& skill : data.colSkill)
-    if (skill->iKey == numericPrefix(row.SubItems(2)))
-      return numericPrefix(row.SubItems(1)) > skill->iStart && row.Text() == skill->sName;
-  return false;
-}
 
 }  // namespace
 
@@ -86,11 +66,17 @@ bool frmPersonnage::otherLanguageLacksItsName() const {
 
 void frmPersonnage::checkSkillNames(Verdict& verdict) {
   for (const auto& row : lvwSkillGen.rows()) {
-    if (!isNamedSkill(*row)) continue;
-    const bool broken = lacksItsName(*row, data_);
+    if (!isNamedByPlayer(row->SubItems(2))) continue;
+    const bool broken = lacksItsName(*row);
     row->setForeColor(broken ? Colour::Red : Colour::WindowText);
     verdict.essential |= broken;
   }
+}
+
+// Bought, but not given a name of its own.
+bool frmPersonnage::lacksItsName(const ListItem& row) const {
+  const auto* skill = skillOf(row);
+  return skill && numericPrefix(row.SubItems(1)) > skill->iStart && row.Text() == skill->sName;
 }
 
 void frmPersonnage::checkMartialArts(Verdict& verdict) {
