@@ -3,12 +3,10 @@
 #include <memory>
 
 #include "data/load_data.h"
+#include "sheet/composition.h"
 #include "shell/FrmReadMe.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
-#if __has_include("sheet/composition.h")
-#include "sheet/composition.h"
-#endif
 
 namespace orvane {
 namespace {
@@ -28,9 +26,7 @@ F* loadedForm(const Desktop& desktop) {
 
 Run::Run(const World& world) : globals_(desktop_, data_), desktop_(world) {
   globals_.showReadMe = [this] { showReadMe(); };
-#if __has_include("sheet/composition.h")
   globals_.composeSheet = [this](frmPersonnage& window) { composeSheet(globals_, window); };
-#endif
 }
 
 void Run::Main() {
