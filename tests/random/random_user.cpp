@@ -1,6 +1,7 @@
 #include "tests/random/random_user.h"
 
 #include <array>
+#include <map>
 
 #include "surface/checkbox.h"
 #include "surface/combobox.h"
@@ -23,11 +24,18 @@ bool holdsANumberOfTheRules(const Control& control) {
   return control.Name() == "txtLang" || control.Name() == "txtLangRest" || control.Name() == "txtSkillRest";
 }
 
-bool endsSomething(const Control& control) {
-  for (const char* name : {"cmdClose", "cmdPrintPreview", "cmdSave", "cmdHelp", "cmdMutaRandomChoice", "cmbProfil",
-                           "cmbVehicle", "chkMuta"})
-    if (control.Name() == name) return true;
-  return false;
+// What ends a window or starts a side over is rare, so that characters grow old enough to be worth it: one in so many.
+int rarity(const Control& control) {
+  static const std::map<std::string, int> rare{
+      {"cmdClose", 60},  {"cmdSave", 60},    {"cmdPrintPreview", 60}, {"cmdHelp", 60},
+      {"cmbProfil", 20}, {"cmbVehicle", 20}, {"chkMuta", 4},          {"cmdMutaRandomChoice", 10}};
+  const auto found = rare.find(control.Name());
+  return found == rare.end() ? 1 : found->second;
+}
+
+bool stepsDown(const Control& control) {
+  const auto* button = dynamic_cast<const CommandButton*>(&control);
+  return button && button->picture() == CommandButton::Picture::LeftArrow;
 }
 
 }  // namespace
@@ -67,8 +75,7 @@ void RandomUser::actAt(Form& form) {
   for (int tries = 0; tries < 100; ++tries) {
     Control& control = *controls[static_cast<std::size_t>(below(static_cast<int>(controls.size())))];
     if (control.unreachable() || holdsANumberOfTheRules(control)) continue;
-    // What ends a window or starts a side over is rare, so that characters grow old enough to be worth it.
-    if (endsSomething(control) && !oneIn(60)) continue;
+    if (!oneIn(rarity(control)) || (spender_ && stepsDown(control) && !oneIn(5))) continue;
     lastAct_ = form.Name() + " " + control.id();
     try {
       return actOn(control);

@@ -11,7 +11,8 @@ namespace orvane::test {
 // A user who does something at random at whatever window asks for it. The same seed does the same.
 class RandomUser {
  public:
-  RandomUser(Desktop& desktop, unsigned seed) : user_(desktop), desktop_(desktop), random_(seed) {}
+  RandomUser(Desktop& desktop, unsigned seed)
+      : user_(desktop), desktop_(desktop), random_(seed), spender_(seed % 2 == 1) {}
 
   // One act at the active window, or at the frame where none is open.
   void act(Form& frame);
@@ -32,6 +33,8 @@ class RandomUser {
   User user_;
   Desktop& desktop_;
   std::mt19937 random_;
+  // Every other user seldom steps back, and so empties pools.
+  bool spender_;
   std::string lastAct_;
 };
 
