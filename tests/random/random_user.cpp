@@ -33,9 +33,9 @@ int rarity(const Control& control) {
   return found == rare.end() ? 1 : found->second;
 }
 
-bool stepsDown(const Control& control) {
+CommandButton::Picture arrow(const Control& control) {
   const auto* button = dynamic_cast<const CommandButton*>(&control);
-  return button && button->picture() == CommandButton::Picture::LeftArrow;
+  return button ? button->picture() : CommandButton::Picture::None;
 }
 
 }  // namespace
@@ -75,7 +75,10 @@ void RandomUser::actAt(Form& form) {
   for (int tries = 0; tries < 100; ++tries) {
     Control& control = *controls[static_cast<std::size_t>(below(static_cast<int>(controls.size())))];
     if (control.unreachable() || holdsANumberOfTheRules(control)) continue;
-    if (!oneIn(rarity(control)) || (spender_ && stepsDown(control) && !oneIn(5))) continue;
+    if (!oneIn(rarity(control))) continue;
+    const auto direction = arrow(control);
+    if (direction == CommandButton::Picture::None && !oneIn(4)) continue;
+    if (direction == CommandButton::Picture::LeftArrow && spender_ && !oneIn(5)) continue;
     lastAct_ = form.Name() + " " + control.id();
     try {
       return actOn(control);
