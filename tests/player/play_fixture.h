@@ -1,0 +1,35 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "player/play_scripts.h"
+#include "tests/support/fakes.h"
+#include "tests/support/game_files.h"
+
+namespace orvane::test {
+
+// The player on the game, with files in memory. Scripts go to standard input or to files of their own.
+class PlayFixture : public ::testing::Test {
+ protected:
+  int play(const std::string& script, std::vector<std::string> arguments = {}) {
+    std::istringstream in(script);
+    return playFrom(in, std::move(arguments));
+  }
+  int playFrom(std::istream& in, std::vector<std::string> arguments) {
+    out.str("");
+    err.str("");
+    return playScripts(arguments, in, out, err, {files, pictures, clock});
+  }
+  std::string transcript() const { return out.str(); }
+
+  MemoryFiles files = gameFiles();
+  BlankPictures pictures;
+  FakeClock clock;
+  std::ostringstream out;
+  std::ostringstream err;
+};
+
+}  // namespace orvane::test

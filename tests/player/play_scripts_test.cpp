@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include "tests/player/play_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+class CommandLineTest : public PlayFixture {
+ protected:
+  CommandLineTest() {
+    files.contents["one.script"] = "click mnuFileNewPJ\ntype txtAge \"31\"\nget txtAge.Text\n";
+    files.contents["two.script"] = "windows\nget txtAge.Text\n";
+    files.contents["refused.script"] = "get txtAge.Text\n";
+    files.contents["wrong.script"] = "windows\nhop\n";
+  }
+};
+
+TEST_F(CommandLineTest, PlaysStandardInputWithoutAScript) {
+  EXPECT_EQ(play("windows\n"), 0);
+  EXPECT_EQ(transcript(), "window 0 frmMain \"Orvane\"\n");
+  EXPECT_EQ(play("# rien"), 0);
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(err.str(), "");
+}
+
+TEST_F(CommandLineTest, PlaysSeveralScriptsInOneRun) {
+  EXPECT_EQ(play("type txtAge \"32\"\n", {"one.script", "-", "two.script"}), 0);
+  EXPECT_EQ(transcript(),
+            "txtAge.Text \"31\"\n"
+            "window 0 frmMain \"Orvane\"\n"
+            "window 1 frmPersonnage \"\" active\n"
+            "txtAge.Text \"32\"\n");
+}
+
+TEST_F(CommandLineTest, NamesFileAndLineOfARefusal) {
+  EXPECT_EQ(play("\nclick txtAge\n"), 1);
+  EXPECT_EQ(transcript(), "refused -:2: Aucune fenêtre n'est ouverte.\n");
+}
+
+TEST_F(CommandLineTest, TheFirstRefusalEndsTheWholeRun) {
+  EXPECT_EQ(play("", {"refused.script", "one.script"}), 1);
+  EXPECT_EQ(transcript(), "refused refused.script:1: Aucune fenêtre n'est ouverte.\n");
+}
+
+TEST_F(CommandLineTest, KeepGoingPlaysOnAndStillReportsIt) {
+  EXPECT_EQ(play("", {"refused.script", "--keep-going", "one.script"}), 1);
+  EXPECT_EQ(transcript(), "refused refused.script:1: Aucune fenêtre n'est ouverte.\ntxtAge.Text \"31\"\n");
+}
+
+TEST_F(CommandLineTest, PlaysNothingWhenOneScriptIsWrong) {
+  EXPECT_EQ(play("", {"one.script", "wrong.script"}), 2);
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(err.str(), "wrong.script:2: acte inconnu « hop »\n");
+}
+
+TEST_F(CommandLineTest, PlaysNothingWhenAScriptCannotBeRead) {
+  EXPECT_EQ(play("", {"one.script", "none.script"}), 2);
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(err.str(), "none.script: Fichier introuvable : none.script.\n");
+}
+
+TEST_F(CommandLineTest, KnowsNoOtherOption) {
+  EXPECT_EQ(play("windows", {"--keep-goin"}), 2);
+  EXPECT_EQ(transcript(), "");
+  EXPECT_NE(err.str().find("--keep-goin\n"), std::string::npos);
+}
+
+TEST_F(CommandLineTest, SaysThatTheTranscriptCouldNotBeWritten) {
+  std::istringstream in("windows\n");
+  std::ostringstream full;
+  full.setstate(std::ios::badbit);
+  EXPECT_EQ(playScripts({}, in, full, err, {files, pictures, clock}), 1);
+  EXPECT_EQ(err.str(), "orvane-batch: la transcription n'a pas pu être écrite\n");
+}
+
+TEST_F(CommandLineTest, ReportsWhatTheStartReports) {
+  files.contents.erase("./grade.txt");
+  EXPECT_EQ(play("answer Cancel\nwindows\n"), 0);
+  EXPECT_EQ(transcript(),
+            "box 16 \"Tessaly\" \"Fichier grade.txt manquant.\" OK\n"
+            "window 0 frmMain \"Orvane\"\n");
+}
+
+}  // namespace
+}  // namespace orvane::test

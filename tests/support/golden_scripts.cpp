@@ -1,0 +1,132 @@
+#include "tests/support/golden_scripts.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sstream>
+#include <unistd.h>
+
+namespace orvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path source = ORVANE_SOURCE_DIR;
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool isDataFile(const fs::path& path) {
+  return path.extension() == ".rtf" || (path.extension() == ".txt" && path.filename() != "expected.txt");
+}
+
+bool hasDataFiles(const fs::path& folder) {
+  return std::any_of(fs::directory_iterator(folder), {}, [](const auto& entry) { return isDataFile(entry.path()); });
+}
+
+void addFolderCase(std::vector<GoldenScript>& found, const fs::path& folder) {
+  if (fs::exists(folder / "play.script"))
+    found.push_back({folder.filename(), folder / "play.script", folder / "expected.txt",
+                     hasDataFiles(folder) ? folder : source / "game"});
+}
+
+void addScripts(std::vector<GoldenScript>& found, const fs::path& folder, const fs::path& expected) {
+  if (!fs::exists(folder)) return;
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    if (entry.is_directory()) addFolderCase(found, entry.path());
+    if (entry.path().extension() != ".script") continue;
+    const std::string name = entry.path().stem();
+    found.push_back({name, entry.path(), expected / (name + ".expected"), source / "game"});
+  }
+}
+
+std::string firstDifference(const std::string& expected, const std::string& text) {
+  std::istringstream expectedLines(expected);
+  std::istringstream lines(text);
+  for (int number = 1;; ++number) {
+    std::string expectedLine;
+    std::string line;
+    if (!std::getline(expectedLines, expectedLine)) expectedLine = "(end)";
+    if (!std::getline(lines, line)) line = "(end)";
+    if (expectedLine != line || !expectedLines || !lines)
+      return "\nfrom line " + std::to_string(number) + "\nexpected: " + expectedLine + "\nplayed:   " + line;
+  }
+}
+
+}  // namespace
+
+std::vector<GoldenScript> goldenScripts() {
+  std::vector<GoldenScript> found;
+  addScripts(found, source / "tests/scripts", source / "tests/scripts");
+  addScripts(found, source / "examples", source / "tests/scripts/examples");
+  std::sort(found.begin(), found.end(), [](auto& one, auto& other) { return one.script < other.script; });
+  return found;
+}
+
+std::vector<std::string> goldenArguments(const GoldenScript& script) {
+  std::istringstream words(contents(script.script));
+  std::string line;
+  std::getline(words, line);
+  std::vector<std::string> arguments;
+  if (line.starts_with("# orvane-batch ")) {
+    std::istringstream options(line.substr(15));
+    arguments.assign(std::istream_iterator<std::string>(options), {});
+  }
+  arguments.push_back(script.name + ".script");
+  return arguments;
+}
+
+ScratchFolder::ScratchFolder(const GoldenScript& script)
+    : former_(fs::current_path()),
+      folder_(fs::temp_directory_path() / ("orvane-" + script.name + "-" + std::to_string(getpid()))) {
+  fs::remove_all(folder_);
+  fs::create_directories(folder_);
+  for (const auto& entry : fs::directory_iterator(script.data))
+    if (isDataFile(entry.path())) fs::copy_file(entry.path(), folder_ / entry.path().filename());
+  fs::copy_file(script.script, folder_ / (script.name + ".script"));
+  fs::current_path(folder_);
+  copied_ = files();
+}
+
+ScratchFolder::~ScratchFolder() {
+  fs::current_path(former_);
+  fs::remove_all(folder_);
+}
+
+std::vector<std::string> ScratchFolder::files() const {
+  std::vector<std::string> paths;
+  for (const auto& entry : fs::recursive_directory_iterator(folder_))
+    if (entry.is_regular_file()) paths.push_back(fs::relative(entry.path(), folder_));
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+std::string ScratchFolder::newFiles() const {
+  std::string lines;
+  for (const auto& path : files())
+    if (!std::binary_search(copied_.begin(), copied_.end(), path)) lines += path + "\n";
+  return lines;
+}
+
+std::string goldenText(const GoldenOutput& output, const ScratchFolder& folder) {
+  std::string text = output.transcript;
+  if (!output.errors.empty()) text += "--- standard error\n" + output.errors;
+  if (const std::string files = folder.newFiles(); !files.empty()) text += "--- files\n" + files;
+  return text + "--- exit status " + std::to_string(output.status) + "\n";
+}
+
+void expectGolden(const GoldenScript& script, const std::string& text) {
+  if (std::getenv("ORVANE_REBASELINE")) {
+    fs::create_directories(script.expected.parent_path());
+    std::ofstream(script.expected, std::ios::binary) << text;
+    return;
+  }
+  if (contents(script.expected) != text)
+    ADD_FAILURE() << script.script << firstDifference(contents(script.expected), text);
+}
+
+}  // namespace orvane::test
