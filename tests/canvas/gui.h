@@ -1,0 +1,23 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QGuiApplication>
+
+namespace orvane::test {
+
+// Fonts need an application, which has to go before main returns.
+class Gui : public testing::Environment {
+ public:
+  void SetUp() override { application_ = std::make_unique<QGuiApplication>(count_, arguments_); }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  int count_ = 1;
+  char name_[7] = "orvane";
+  char* arguments_[2] = {name_, nullptr};
+  std::unique_ptr<QGuiApplication> application_;
+};
+
+}  // namespace orvane::test
