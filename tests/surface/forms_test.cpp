@@ -100,7 +100,7 @@ TEST_F(Forms, BeingActivatedMayCloseTheWindow) {
 TEST_F(Forms, AModalFormBlocksAllOthersUntilItIsClosed) {
   Sample& a = open("A");
   Log refused;
-  outside.dialogs.modal = [&](Form& form) {
+  dialogs.modal = [&](Form& form) {
     auto& dialog = static_cast<Sample&>(form);
     refused.push_back(refusal([&] { user.click(a.button); }));
     refused.push_back(refusal([&] { user.close(a); }));
@@ -122,8 +122,8 @@ TEST_F(Forms, AModalFormBlocksAllOthersUntilItIsClosed) {
 }
 
 TEST_F(Forms, AnInnerModalFormTakesOverFromTheOuterOne) {
-  outside.dialogs.modal = [&](Form& outer) {
-    outside.dialogs.modal = [&](Form& inner) {
+  dialogs.modal = [&](Form& outer) {
+    dialogs.modal = [&](Form& inner) {
       EXPECT_EQ(desktop.modal(), &inner);
       EXPECT_NE(refusal([&] { user.close(outer); }), "");
       user.close(inner);
@@ -137,7 +137,7 @@ TEST_F(Forms, AnInnerModalFormTakesOverFromTheOuterOne) {
 
 TEST_F(Forms, AModalFormThatCannotBeRunBlocksNothing) {
   Sample& a = open("A");
-  outside.dialogs.modal = [](Form&) { throw Failure("pas d'écran"); };
+  dialogs.modal = [](Form&) { throw Failure("pas d'écran"); };
   desktop.perform([&] { make("D", Form::Role::Dialog)->ShowModal(); });
   EXPECT_EQ(told(), Log{"failure|pas d'écran"});
   EXPECT_EQ(openForms(), Log{"A"});

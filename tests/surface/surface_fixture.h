@@ -20,7 +20,10 @@
 #include "surface/tabcontrol.h"
 #include "surface/textbox.h"
 #include "surface/user.h"
-#include "tests/support/test_world.h"
+#include "tests/support/fakes.h"
+#include "tests/support/logged_dialogs.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/refusal.h"
 
 namespace orvane::test {
 
@@ -148,7 +151,7 @@ class Surface : public testing::Test {
 
   // What was noted since the last call.
   Log noted() { return std::exchange(log, {}); }
-  Log told() { return std::exchange(outside.dialogs.log, {}); }
+  Log told() { return std::exchange(dialogs.log, {}); }
   // The captions of the loaded forms.
   Log openForms() const {
     Log captions;
@@ -157,8 +160,12 @@ class Surface : public testing::Test {
   }
 
   Log log;
-  TestWorld outside;
-  Desktop desktop{outside.world()};
+  LoggedDialogs dialogs;
+  FakeClock clock;
+  NoSettings settings;
+  MemoryFiles files;
+  BlankPictures pictures;
+  Desktop desktop{World{dialogs, clock, settings, files, pictures}};
   User user{desktop};
 };
 

@@ -1,0 +1,307 @@
+#include "editor/frmContact.h"
+#include "tests/support/refusal.h"
+#include "tests/support/run_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+class Contacts : public RunFixture {
+ protected:
+  Contacts() { user.pick(perso->SSTabPerso, frmPersonnage::Contacts); }
+
+  void fill(Form& form, const std::string& name, const std::string& description) {
+    auto& dialog = static_cast<frmContact&>(form);
+    user.type(dialog.txtContactName, name);
+    user.type(dialog.txtContactDescro, description);
+    user.click(dialog.OKButton);
+  }
+  void answerWith(const std::string& name, const std::string& description) {
+    dialogs.modal = [=, this](Form& form) { fill(form, name, description); };
+  }
+  void create(const std::string& name, const std::string& description = "x") {
+    answerWith(name, description);
+    user.click(perso->cmdContactNew);
+  }
+  void change(const std::string& name, const std::string& description) {
+    answerWith(name, description);
+    user.click(perso->cmdContactChange);
+  }
+  // Steps up, or down where negative, on the chosen value of the selected contact.
+  void step(int times) {
+    for (int i = 0; i < std::abs(times); ++i) user.click(perso->cmdContactModif(times < 0 ? 0 : 1));
+  }
+  void choose(int value) { user.click(perso->optContact(value)); }
+
+  // The records in order, as "NAME INFO/REACT DESCRIPTION", and the pool.
+  std::string records() const {
+    std::string text;
+    for (const auto& contact : perso->colContact)
+      text += contact->sName + " " + std::to_string(contact->iInfo) + "/" + std::to_string(contact->iReact) + " " +
+              contact->sDescro + "; ";
+    return text + "reste " + perso->txtContactRest.Text();
+  }
+  // The list, the selected entry in brackets, and the boxes.
+  std::string shown() const {
+    std::string text;
+    for (int i = 0; i < perso->lstContact.ListCount(); ++i) {
+      const auto& name = perso->lstContact.List(i);
+      text += (i == perso->lstContact.ListIndex() ? "[" + name + "]" : name) + " ";
+    }
+    return text + "| " + std::to_string(perso->iContactSel) + " " + perso->txtContact(0).Text() + "/" +
+           perso->txtContact(1).Text() + " " + perso->txtContactDescro.Text();
+  }
+  // Of the four buttons that need a contact.
+  std::string enabled() const {
+    std::string text;
+    for (const auto* button :
+         {&perso->cmdContactChange, &perso->cmdContactDel, &perso->cmdContactModif(0), &perso->cmdContactModif(1)})
+      text += button->Enabled() ? '1' : '0';
+    return text;
+  }
+
+  frmPersonnage* perso = open();
+};
+
+TEST_F(Contacts, ANewCharacterCanOnlyMakeOne) {
+  EXPECT_EQ(records(), "reste 14");
+  EXPECT_EQ(shown(), "| 0 0/0 ");
+  EXPECT_EQ(enabled(), "0000");
+  create("Anne", "Au greffe.");
+  EXPECT_EQ(records(), "Anne 0/0 Au greffe.; reste 14");
+  EXPECT_EQ(shown(), "[Anne] | 1 0/0 Au greffe.");
+  EXPECT_EQ(enabled(), "1111");
+  EXPECT_EQ(boxes(), "");
+}
+
+TEST_F(Contacts, EachStepCostsTheValueItReaches) {
+  create("Anne");
+  std::string pools;
+  const auto steps = [&](int count, int direction) {
+    for (int i = 0; i < count; ++i) {
+      step(direction);
+      pools += perso->txtContactRest.Text() + " ";
+    }
+  };
+  steps(4, 1);
+  choose(1);
+  steps(3, 1);
+  create("Bob");
+  steps(2, 1);
+  EXPECT_EQ(pools, "13 11 8 8 7 5 2 1 1 ") << "the steps at 3 and without points are refused";
+  pools.clear();
+  user.pick(perso->lstContact, "Anne");
+  steps(4, -1);
+  EXPECT_EQ(pools, "4 6 7 7 ") << "Réaction gives back what it took, the step at 0 is refused";
+  EXPECT_EQ(boxes() + perso->txtAllDescro.Text(), "") << "all refusals are silent";
+}
+
+TEST_F(Contacts, TheRecordFollowsOnceTheArrowIsLeft) {
+  create("Anne");
+  step(2);
+  EXPECT_EQ(records(), "Anne 0/0 x; reste 11");
+  EXPECT_EQ(shown(), "[Anne] | 1 2/0 x");
+  choose(1);
+  EXPECT_EQ(records(), "Anne 2/0 x; reste 11");
+  step(1);
+  user.pick(perso->SSTabPerso, frmPersonnage::EtatCivil);
+  EXPECT_EQ(records(), "Anne 2/1 x; reste 10");
+}
+
+TEST_F(Contacts, EachWayOfLeavingTheArrowSavesTheContactThatWasSelected) {
+  create("Anne");
+  create("Bob");
+  user.pick(perso->lstContact, "Anne");
+  step(1);
+  user.pick(perso->lstContact, "Bob");
+  EXPECT_EQ(records(), "Anne 1/0 x; Bob 0/0 x; reste 13");
+  step(2);
+  create("Carl");
+  EXPECT_EQ(records(), "Anne 1/0 x; Bob 2/0 x; Carl 0/0 x; reste 10");
+  step(2);
+  step(-1);
+  EXPECT_EQ(records(), "Anne 1/0 x; Bob 2/0 x; Carl 2/0 x; reste 9") << "the other arrow too";
+}
+
+TEST_F(Contacts, NamesAreSortedAndFoundAgain) {
+  create("Zoe", "z");
+  create("Anne", "a");
+  create("Émile", "é");
+  user.pick(perso->lstContact, "Anne");
+  EXPECT_EQ(shown(), "[Anne] Émile Zoe | 2 0/0 a");
+  user.click(perso->cmdContactDel);
+  EXPECT_EQ(shown(), "[Émile] Zoe | 2 0/0 é");
+  EXPECT_EQ(records(), "Zoe 0/0 z; Émile 0/0 é; reste 14");
+}
+
+TEST_F(Contacts, DeletingGivesAllPointsBack) {
+  create("Anne");
+  create("Bob");
+  step(3);
+  choose(1);
+  step(2);
+  EXPECT_EQ(perso->txtContactRest.Text(), "5");
+  user.click(perso->cmdContactDel);
+  EXPECT_EQ(records(), "Anne 0/0 x; reste 14") << "also what the arrow had not saved before the click";
+  EXPECT_EQ(shown(), "[Anne] | 1 0/0 x");
+}
+
+TEST_F(Contacts, DeletingTheLastOneLeavesNoneSelected) {
+  create("Anne", "Au greffe.");
+  step(2);
+  user.click(perso->cmdContactDel);
+  EXPECT_EQ(records(), "reste 14");
+  EXPECT_EQ(shown(), "| 0 2/0 ") << "the value boxes keep their numbers";
+  EXPECT_EQ(enabled(), "0000");
+  user.focus(perso->txtContactDescro);
+  user.focus(perso->cmdContactNew);
+  EXPECT_EQ(boxes(), "");
+  create("Bob");
+  EXPECT_EQ(shown(), "[Bob] | 1 0/0 x");
+}
+
+TEST_F(Contacts, TheDialogRefusesAndStaysOpen) {
+  create("Anne", "première");
+  dialogs.modal = [&](Form& form) {
+    EXPECT_EQ(form.Caption(), "Nouveau contact");
+    for (const auto& [name, description] : std::vector<std::pair<const char*, const char*>>{
+             {"", "x"}, {"  ", ""}, {"Bob", ""}, {"Bob", "   "}, {"Anne", "x"}}) {
+      fill(form, name, description);
+      EXPECT_TRUE(form.isLoaded()) << name;
+      EXPECT_EQ(static_cast<frmContact&>(form).txtContactName.Text(), name);
+    }
+    EXPECT_NE(refusal([&] { user.click(perso->cmdContactNew); }), "") << "only the dialog takes acts";
+    fill(form, "Bob", "x");
+    EXPECT_FALSE(form.isLoaded());
+  };
+  user.click(perso->cmdContactNew);
+  const std::string noName = "64|Tessaly|Le contact doit avoir un nom !\n";
+  const std::string noDescription = "64|Tessaly|Le contact doit être décrit !\n";
+  EXPECT_EQ(boxes(), noName + noName + noDescription + noDescription + "64|Tessaly|Ce contact existe déjà.\n");
+  EXPECT_EQ(records(), "Anne 0/0 première; Bob 0/0 x; reste 14");
+}
+
+TEST_F(Contacts, NamesDifferByCaseAndBlanks) {
+  create("Anne", "1");
+  create("anne", "2");
+  create(" Anne", " 3 ");
+  EXPECT_EQ(records(), "Anne 0/0 1; anne 0/0 2;  Anne 0/0  3 ; reste 14");
+  user.pick(perso->lstContact, "anne");
+  EXPECT_EQ(perso->iContactSel, 2);
+  EXPECT_EQ(boxes(), "");
+}
+
+TEST_F(Contacts, AChangedNameKeepsItsPlaceAndTheTextSurvives) {
+  create("Bob", "b");
+  create("Carl", "c");
+  user.pick(perso->lstContact, "Bob");
+  step(1);
+  change("Zoe", "z");
+  EXPECT_EQ(records(), "Zoe 1/0 z; Carl 0/0 c; reste 13");
+  EXPECT_EQ(shown(), "[Zoe] Carl | 1 1/0 z");
+  user.focus(perso->txtContactDescro);
+  user.focus(perso->cmdContactNew);
+  EXPECT_EQ(records(), "Zoe 1/0 z; Carl 0/0 c; reste 13") << "the description box left behind nothing old";
+  change("Zoe", "sous le même nom");
+  dialogs.modal = [&](Form& form) {
+    auto& dialog = static_cast<frmContact&>(form);
+    EXPECT_EQ(form.Caption() + "|" + dialog.txtContactName.Text() + "|" + dialog.txtContactDescro.Text(),
+              "modification de contact|Zoe|sous le même nom");
+    fill(form, "Carl", "z");
+    EXPECT_TRUE(form.isLoaded());
+  };
+  user.click(perso->cmdContactChange);
+  EXPECT_EQ(boxes(), "64|Tessaly|Ce contact existe déjà.\n");
+  EXPECT_EQ(records(), "Zoe 1/0 sous le même nom; Carl 0/0 c; reste 13");
+}
+
+TEST_F(Contacts, CancellingAChangeLeavesAllAsItWas) {
+  create("Anne", "a");
+  step(1);
+  dialogs.modal = [&](Form& form) {
+    auto& dialog = static_cast<frmContact&>(form);
+    user.type(dialog.txtContactName, "Bob");
+    user.click(dialog.CancelButton);
+  };
+  user.click(perso->cmdContactChange);
+  dialogs.modal = [&](Form& form) { user.close(form); };
+  user.click(perso->cmdContactChange);
+  EXPECT_EQ(records(), "Anne 1/0 a; reste 13");
+  EXPECT_EQ(shown(), "[Anne] | 1 1/0 a");
+}
+
+TEST_F(Contacts, CancellingANewOneLeavesNoneSelected) {
+  create("Anne", "a");
+  step(1);
+  dialogs.modal = [&](Form& form) { user.click(static_cast<frmContact&>(form).CancelButton); };
+  user.click(perso->cmdContactNew);
+  EXPECT_EQ(shown(), "Anne | 0 1/0 a") << "the boxes still show the contact of before";
+  EXPECT_EQ(enabled(), "1111");
+  user.click(perso->cmdContactChange);
+  step(1);
+  user.click(perso->cmdContactDel);
+  user.focus(perso->txtContactDescro);
+  user.focus(perso->lstContact);
+  const std::string none = "48|Tessaly|Pas de contact à modifier.\n";
+  EXPECT_EQ(boxes(), none + none);
+  EXPECT_EQ(records(), "Anne 1/0 a; reste 13");
+  user.pick(perso->lstContact, "Anne");
+  EXPECT_EQ(shown(), "[Anne] | 1 1/0 a");
+}
+
+TEST_F(Contacts, WithoutPointsNoneIsMadeButStepsDownFreeSome) {
+  create("Anne");
+  step(3);
+  choose(1);
+  step(3);
+  create("Bob");
+  step(1);
+  create("Carl");
+  step(1);
+  EXPECT_EQ(perso->txtContactRest.Text(), "0");
+  user.click(perso->cmdContactNew);
+  EXPECT_EQ(perso->txtAllDescro.Text(), "!!! Plus de points de contact disponible !!!");
+  EXPECT_EQ(shown(), "Anne Bob [Carl] | 3 0/1 x");
+  step(-1);
+  create("Dora");
+  EXPECT_EQ(records(), "Anne 3/3 x; Bob 0/1 x; Carl 0/0 x; Dora 0/0 x; reste 1");
+}
+
+TEST_F(Contacts, ComingBackToTheTabChoosesInformation) {
+  create("Anne");
+  choose(1);
+  user.pick(perso->SSTabPerso, frmPersonnage::Caracteristiques);
+  EXPECT_FALSE(perso->optContact(1).Value()) << "the characteristics share the group";
+  user.pick(perso->SSTabPerso, frmPersonnage::Contacts);
+  step(1);
+  EXPECT_EQ(shown(), "[Anne] | 1 1/0 x");
+}
+
+TEST_F(Contacts, AListThatDisagreesWithTheRecordsIsTold) {
+  create("Anne");
+  create("Bob");
+  perso->colContact(1)->sName = "Anna";
+  user.pick(perso->lstContact, "Anne");
+  EXPECT_EQ(boxes(), "16|Tessaly|Problème de synchronisation entre la collection et la liste des contacts.\n");
+  EXPECT_EQ(perso->iContactSel, 0);
+  step(1);
+  user.pick(perso->lstContact, "Bob");
+  EXPECT_EQ(records(), "Anna 0/0 x; Bob 0/0 x; reste 13") << "no record is touched meanwhile";
+  perso->colContact.Remove(1);
+  perso->iContactSel = 1;
+  user.click(perso->cmdContactDel);
+  EXPECT_EQ(boxes(),
+            "16|Tessaly|Problème de synchronisation entre la liste et la collection.\n"
+            "16|Tessaly|Problème de synchronisation entre la collection et la liste des contacts.\n");
+  EXPECT_EQ(records(), "reste 13") << "and the deletion went on";
+}
+
+TEST_F(Contacts, AValueWithoutAPriceFails) {
+  create("Anne");
+  perso->txtContact(0).setText("4");
+  step(-1);
+  EXPECT_EQ(boxes(), "failure|Un contact de valeur 4 n'a pas de prix.\n");
+  EXPECT_EQ(perso->txtContactRest.Text(), "14");
+}
+
+}  // namespace
+}  // namespace orvane::test
