@@ -1,0 +1,42 @@
+#include "screen/button_view.h"
+
+#include <QKeyEvent>
+#include <QStyle>
+
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+ButtonView::ButtonView(CommandButton& command, QAbstractButton& button, FormView& form)
+    : View(command, button, form), command_(command), button_(button) {
+  button_.setFocusPolicy(Qt::StrongFocus);
+  if (command_.picture() != CommandButton::Picture::None) showArrow();
+  on(&button_, &QAbstractButton::clicked, [this] { click(); });
+  onEvent(button_, [this](QEvent& event) { return enterPressed(event); });
+}
+
+void ButtonView::showArrow() {
+  const bool left = command_.picture() == CommandButton::Picture::LeftArrow;
+  button_.setIcon(button_.style()->standardIcon(left ? QStyle::SP_ArrowLeft : QStyle::SP_ArrowRight));
+  button_.setAutoRepeat(true);
+}
+
+void ButtonView::show() {
+  if (const QString caption = toQt(command_.Caption()); !caption.isEmpty() && button_.text() != caption)
+    button_.setText(caption);
+}
+
+// Qt itself lets Enter press buttons in dialogs only.
+bool ButtonView::enterPressed(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  click();
+  return true;
+}
+
+void ButtonView::click() {
+  act([this](User& user) { user.click(command_); });
+}
+
+}  // namespace orvane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "surface/commandbutton.h"
+
+namespace orvane {
+
+// The button that the Escape key presses; none when the form has none.
+CommandButton* cancelButton(const Form& form);
+
+}  // namespace orvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QCheckBox>
+
+#include "screen/view.h"
+#include "surface/checkbox.h"
+
+namespace orvane {
+
+class CheckBoxView final : public View {
+ public:
+  CheckBoxView(CheckBox& box, QCheckBox& button, FormView& form);
+
+ private:
+  void show() override;
+
+  CheckBox& box_;
+  QCheckBox& button_;
+};
+
+}  // namespace orvane

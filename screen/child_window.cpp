@@ -1,0 +1,80 @@
+#include "screen/child_window.h"
+
+#include <algorithm>
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QShortcut>
+
+#include "screen/cancel_button.h"
+#include "screen/layouts.h"
+#include "screen/measures.h"
+#include "screen/qt_text.h"
+#include "surface/picturebox.h"
+
+namespace orvane {
+namespace {
+
+// The pictures that code puts on a form reach below what it was designed for; the rest is for the user to scroll to.
+int heightOfContents(const Form& form) {
+  float bottom = form.ScaleHeight() * twipsPerUnit(form.ScaleMode());
+  for (auto* control : form.controls())
+    if (const auto* picture = dynamic_cast<PictureBox*>(control); picture && picture->hasPicture())
+      bottom = std::max(bottom, picture->topTwips() + picture->heightTwips());
+  return pixels(bottom);
+}
+
+Qt::WindowFlags frameFlags(bool resizable) {
+  const Qt::WindowFlags fixed = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+  return resizable ? fixed | Qt::WindowMaximizeButtonHint : fixed | Qt::MSWindowsFixedSizeDialogHint;
+}
+
+}  // namespace
+
+ChildWindow::ChildWindow(Form& form, Acts& acts)
+    : acts_(acts), resizable_(form.Name() == "frmFeuille"), pane_(new QWidget) {
+  layOut(form, *pane_);
+  setWidget(pane_);
+  setWindowFlags(frameFlags(resizable_));
+  setWindowIcon(QIcon(":/art/icons/orvane-16.png"));
+  setObjectName(toQt(form.Name()) + "_window");
+  view_ = std::make_unique<FormView>(form, *pane_, acts);
+  showCaption();
+  answerEscape();
+}
+
+void ChildWindow::answerEscape() {
+  auto* cancel = cancelButton(form());
+  if (!cancel) return;
+  auto* escape = new QShortcut(Qt::Key_Escape, pane_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, pane_,
+          [this, cancel] { acts_.perform([cancel](User& user) { user.click(*cancel); }); });
+}
+
+void ChildWindow::openIn(const QSize& room) {
+  const QSize design = pane_->size().expandedTo(pane_->sizeHint());
+  pane_->setFixedSize(design);
+  adjustSize();
+  const QSize frame = size() - design;
+  if (!resizable_) return;
+  pane_->setMinimumSize(0, 0);
+  pane_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  const int height = std::min(heightOfContents(form()), room.height() - frame.height());
+  resize(QSize(design.width(), std::max(design.height(), height)) + frame);
+}
+
+void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
+
+void ChildWindow::end() {
+  view_->detach();
+  hide();
+  deleteLater();
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  acts_.perform([this](User& user) { user.close(form()); });
+}
+
+}  // namespace orvane

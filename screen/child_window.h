@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+
+#include <QMdiSubWindow>
+
+#include "screen/form_view.h"
+
+namespace orvane {
+
+// A child window of the main window. It closes when its form is unloaded, and not before.
+class ChildWindow final : public QMdiSubWindow {
+ public:
+  ChildWindow(Form& form, Acts& acts);
+
+  Form& form() const { return view_->form(); }
+  FormView& view() const { return *view_; }
+  // True for the windows whose size the user may change.
+  bool isResizable() const { return resizable_; }
+  // As much of the contents as the room allows.
+  void openIn(const QSize& room);
+  void showCaption();
+  // The form has ended; the window goes away at the next turn of the event loop.
+  void end();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void answerEscape();
+
+  Acts& acts_;
+  bool resizable_;
+  QWidget* pane_;
+  std::unique_ptr<FormView> view_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,62 @@
+#include "screen/combo_box_view.h"
+
+#include <algorithm>
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "screen/box_colour.h"
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
+    : View(box, combo, form), box_(box), combo_(combo) {
+  combo_.setEditable(box_.editable());
+  combo_.setInsertPolicy(QComboBox::NoInsert);
+  if (box_.editable()) combo_.setCompleter(nullptr);  // it would type what the user has not typed
+  combo_.setFocusPolicy(Qt::StrongFocus);
+  onEvent(combo_, [this](QEvent& event) { return wheelWithoutFocus(event); });
+  on(&combo_, &QComboBox::activated, [this](int index) { act([&](User& user) { user.pick(box_, index); }); });
+  if (auto* edit = combo_.lineEdit())
+    on(edit, &QLineEdit::textEdited,
+       [this](const QString& text) { act([&](User& user) { user.type(box_, fromQt(text)); }); });
+}
+
+// Who rolls the page with the pointer above a box does not mean to pick another entry.
+bool ComboBoxView::wheelWithoutFocus(const QEvent& event) const {
+  return event.type() == QEvent::Wheel && !combo_.hasFocus();
+}
+
+bool ComboBoxView::entriesDiffer() const {
+  if (combo_.count() != box_.ListCount()) return true;
+  for (int i = 0; i < box_.ListCount(); ++i)
+    if (combo_.itemText(i) != toQt(box_.List(i))) return true;
+  return false;
+}
+
+void ComboBoxView::showEntries() {
+  if (!entriesDiffer()) return;
+  combo_.clear();
+  for (int i = 0; i < box_.ListCount(); ++i) combo_.addItem(toQt(box_.List(i)));
+}
+
+void ComboBoxView::showSelection() {
+  auto* edit = combo_.lineEdit();
+  const int cursor = edit ? edit->cursorPosition() : 0;
+  if (combo_.currentIndex() != box_.ListIndex()) combo_.setCurrentIndex(box_.ListIndex());
+  if (!edit) return;
+  const QSignalBlocker silent(edit);
+  const QString text = toQt(box_.Text());
+  if (edit->text() != text) edit->setText(text);
+  if (combo_.hasFocus()) edit->setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
+}
+
+void ComboBoxView::show() {
+  const QSignalBlocker silent(combo_);
+  showBoxColour(combo_, box_.BackColor());
+  showEntries();
+  showSelection();
+}
+
+}  // namespace orvane

@@ -1,0 +1,88 @@
+#include "screen/dialog_window.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QLayout>
+#include <QScreen>
+#include <QWindow>
+
+#include "screen/cancel_button.h"
+#include "screen/layouts.h"
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+DialogWindow::DialogWindow(Form& form, Acts& acts, QWidget* parent) : QDialog(parent), acts_(acts) {
+  layOut(form, *this);
+  setObjectName(toQt(form.Name()) + "_window");
+  // A dialog without a caption has no frame either.
+  if (form.Caption().empty()) setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  view_ = std::make_unique<FormView>(form, *this, acts);
+  showCaption();
+}
+
+void DialogWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
+
+void DialogWindow::centre() {
+  adjustSize();
+  const auto* over = parentWidget();
+  const QRect room = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();
+  const QRect limits = screen()->availableGeometry();
+  QRect place(QPoint(), size());
+  place.moveCenter(room.center());
+  place.moveLeft(std::max(limits.left(), std::min(place.left(), limits.right() - place.width())));
+  place.moveTop(std::max(limits.top(), std::min(place.top(), limits.bottom() - place.height())));
+  move(place.topLeft());
+}
+
+void DialogWindow::openOnScreen() {
+  centre();
+  show();
+}
+
+void DialogWindow::runModal() {
+  setWindowModality(Qt::ApplicationModal);
+  QEventLoop loop;
+  loop_ = &loop;
+  openOnScreen();
+  if (!form().wasUnloaded()) loop.exec(QEventLoop::DialogExec);
+  loop_ = nullptr;
+}
+
+void DialogWindow::paintNow() {
+  view_->flush();
+  // A window that the screen has not taken up yet has nothing to paint on.
+  constexpr qint64 patience = 500;
+  QElapsedTimer waited;
+  for (waited.start(); windowHandle() && !windowHandle()->isExposed() && waited.elapsed() < patience;)
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+  repaint();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DialogWindow::end() {
+  view_->detach();
+  hide();
+  if (loop_) loop_->quit();
+  deleteLater();
+}
+
+void DialogWindow::reject() {
+  if (auto* cancel = cancelButton(form()))
+    acts_.perform([cancel](User& user) { user.click(*cancel); });
+  else
+    close();
+}
+
+void DialogWindow::close() {
+  acts_.perform([this](User& user) { user.close(form()); });
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  close();
+}
+
+}  // namespace orvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "screen/form_view.h"
+
+class QEventLoop;
+
+namespace orvane {
+
+// A window of its own: a modal dialog, the splash or the About box. It closes when its form is unloaded, and not
+// before.
+class DialogWindow final : public QDialog {
+ public:
+  DialogWindow(Form& form, Acts& acts, QWidget* parent);
+
+  Form& form() const { return view_->form(); }
+  FormView& view() const { return *view_; }
+  void showCaption();
+  // Blocks until the form is unloaded.
+  void runModal();
+  void openOnScreen();
+  // Paints at once.
+  void paintNow();
+  // The form has ended; the window goes away at the next turn of the event loop.
+  void end();
+
+  // The Escape key.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void close();
+  void centre();
+
+  Acts& acts_;
+  std::unique_ptr<FormView> view_;
+  QEventLoop* loop_ = nullptr;
+};
+
+}  // namespace orvane

@@ -1,0 +1,96 @@
+#include "screen/form_view.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFocusEvent>
+
+#include "screen/make_view.h"
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+QString widgetName(const Control& control) {
+  const QString name = toQt(control.Name());
+  return control.Index() ? QString("%1_%2").arg(name).arg(*control.Index()) : name;
+}
+
+FormView::FormView(Form& form, QWidget& root, Acts& acts) : form_(form.shared_from_this()), root_(root), acts_(acts) {
+  makeViews();
+  followFocus();
+  root_.installEventFilter(this);
+  syncAll();
+}
+
+FormView::~FormView() { detach(); }
+
+void FormView::makeViews() {
+  for (auto* control : form_->controls())
+    if (auto view = makeView(*control, *this)) views_.push_back(std::move(view));
+}
+
+void FormView::followFocus() {
+  for (auto& view : views_)
+    if (view->control().takesFocus()) view->focusWidget().installEventFilter(this);
+}
+
+View* FormView::viewOf(const Control& control) const {
+  for (auto& view : views_)
+    if (&view->control() == &control) return view.get();
+  return nullptr;
+}
+
+void FormView::act(View& view, const std::function<void(User&)>& deed) {
+  if (detached_ || syncing_) return;
+  acts_.perform(deed);
+  schedule(view);
+}
+
+void FormView::schedule(View& view) {
+  if (detached_) return;
+  if (std::find(dirty_.begin(), dirty_.end(), &view) == dirty_.end()) dirty_.push_back(&view);
+  if (std::exchange(flushPosted_, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { flush(); }, Qt::QueuedConnection);
+}
+
+void FormView::flush() {
+  flushPosted_ = false;
+  if (detached_) return;
+  syncing_ = true;
+  for (auto* view : std::exchange(dirty_, {})) view->sync();
+  syncing_ = false;
+}
+
+void FormView::syncAll() {
+  for (auto& view : views_) schedule(*view);
+  flush();
+}
+
+void FormView::detach() {
+  if (std::exchange(detached_, true)) return;
+  for (auto& view : views_) view->detach();
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    // Only these come from the user; Qt gives the others when windows, popups and hidden widgets come and go.
+    if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason)
+      focusEntered(watched);
+  } else if (watched == &root_ && event->type() == QEvent::PaletteChange) {
+    for (auto& view : views_) schedule(*view);
+  }
+  return false;
+}
+
+void FormView::focusEntered(QObject* widget) {
+  for (auto& view : views_) {
+    if (!view->control().takesFocus() || &view->focusWidget() != widget) continue;
+    act(*view, [&](User& user) { user.focus(view->control()); });
+    return;
+  }
+}
+
+}  // namespace orvane

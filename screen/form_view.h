@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <QObject>
+#include <QWidget>
+
+#include "screen/acts.h"
+#include "screen/view.h"
+#include "surface/form.h"
+
+namespace orvane {
+
+// The views of all controls of one form on the widgets of its layout. Whatever changes is shown once for each turn of
+// the event loop. Keeps the form alive: a handler may unload it inside a signal of its own widget.
+class FormView : public QObject {
+ public:
+  // Throws std::logic_error for a control that has no widget of its kind.
+  FormView(Form& form, QWidget& root, Acts& acts);
+  ~FormView() override;
+
+  Form& form() const { return *form_; }
+  QWidget& root() const { return root_; }
+  // None for a control that is not on the screen.
+  View* viewOf(const Control& control) const;
+
+  void act(View& view, const std::function<void(User&)>& deed);
+  void schedule(View& view);
+  // Shows now what waits for the next turn.
+  void flush();
+  void detach();
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void makeViews();
+  void followFocus();
+  void syncAll();
+  void focusEntered(QObject* widget);
+
+  std::shared_ptr<Form> form_;
+  QWidget& root_;
+  Acts& acts_;
+  std::vector<std::unique_ptr<View>> views_;
+  std::vector<View*> dirty_;
+  bool flushPosted_ = false;
+  bool syncing_ = false;
+  bool detached_ = false;
+};
+
+// "txtCaract_3"
+QString widgetName(const Control& control);
+
+}  // namespace orvane

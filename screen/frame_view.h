@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+
+#include "screen/view.h"
+#include "surface/frame.h"
+
+namespace orvane {
+
+// A box around other controls: a group box, or a plain one where the frame has no caption.
+class FrameView final : public View {
+ public:
+  FrameView(Frame& frame, QWidget& box, FormView& form);
+
+ private:
+  void show() override {}
+};
+
+}  // namespace orvane

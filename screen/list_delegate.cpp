@@ -1,0 +1,30 @@
+#include "screen/list_delegate.h"
+
+#include <QLineEdit>
+
+#include "screen/readable_colours.h"
+
+namespace orvane {
+namespace {
+
+void colourText(QPalette& palette, Colour colour) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const QColor wanted = screenColour(colour, palette);
+    palette.setColor(group, QPalette::Text, readable(wanted, palette.color(group, QPalette::Base)));
+    palette.setColor(group, QPalette::HighlightedText, readable(wanted, palette.color(group, QPalette::Highlight)));
+  }
+}
+
+}  // namespace
+
+void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  const QVariant colour = index.data(cellColourRole);
+  if (colour.isValid()) colourText(option->palette, static_cast<Colour>(colour.toUInt()));
+}
+
+void ListDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const {
+  if (const auto* edit = qobject_cast<QLineEdit*>(editor)) typed_(edit->text());
+}
+
+}  // namespace orvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include <QStyledItemDelegate>
+
+namespace orvane {
+
+// Where a cell keeps the colour that its control gave it, a Colour as unsigned number.
+inline constexpr int cellColourRole = Qt::UserRole + 1;
+
+// Paints the colours of cells so that they can be read, selected or not, and hands on what was typed into a name.
+class ListDelegate final : public QStyledItemDelegate {
+ public:
+  using Typed = std::function<void(const QString&)>;
+
+  ListDelegate(QObject* parent, Typed typed) : QStyledItemDelegate(parent), typed_(std::move(typed)) {}
+
+  void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+ private:
+  Typed typed_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,211 @@
+#include "screen/list_view_view.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include "screen/list_delegate.h"
+#include "screen/measures.h"
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
+    : View(list, tree, form), list_(list), tree_(tree) {
+  tree_.setHeaderHidden(true);
+  tree_.setRootIsDecorated(false);
+  tree_.setUniformRowHeights(true);
+  tree_.setAllColumnsShowFocus(true);
+  tree_.setSelectionMode(QAbstractItemView::SingleSelection);
+  tree_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tree_.setTabKeyNavigation(false);
+  tree_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  tree_.header()->setStretchLastSection(false);
+  tree_.header()->setMinimumSectionSize(0);
+  tree_.setItemDelegate(new ListDelegate(&tree_, [this](const QString& text) { endEdit(text); }));
+  on(tree_.itemDelegate(), &QAbstractItemDelegate::closeEditor, [this] { edited_.reset(); });
+  secondClick_.setSingleShot(true);
+  secondClick_.setInterval(QApplication::doubleClickInterval());
+  on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });
+  onEvent(*tree_.viewport(), [this](QEvent& event) { return viewportEvent(event); });
+  onEvent(tree_, [this](QEvent& event) { return keyPressed(event); });
+  // With the mouse seen to above, only keys, type-ahead and screen readers move the current row.
+  on(&tree_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) { clickRow(item); });
+}
+
+// --- What the control says
+
+void ListViewView::show() {
+  const QSignalBlocker silent(tree_);
+  showColumns();
+  showRows();
+  fitColumns();
+  showSelection();
+}
+
+void ListViewView::showColumns() {
+  const auto count = std::max<std::size_t>(1, list_.ColumnHeaders().size());
+  tree_.setColumnCount(static_cast<int>(count));
+  tree_.header()->setSectionResizeMode(QHeaderView::Fixed);
+  tree_.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  for (int column = 1; column < static_cast<int>(count); ++column)
+    tree_.setColumnHidden(column, list_.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0);
+}
+
+void ListViewView::showRows() {
+  while (tree_.topLevelItemCount() > list_.Count()) delete tree_.takeTopLevelItem(tree_.topLevelItemCount() - 1);
+  while (tree_.topLevelItemCount() < list_.Count()) tree_.addTopLevelItem(new QTreeWidgetItem);
+  for (int i = 0; i < list_.Count(); ++i) showRow(*list_.ListItems(i + 1), *tree_.topLevelItem(i));
+}
+
+namespace {
+
+void write(QTreeWidgetItem& item, int column, int role, const QVariant& value) {
+  if (item.data(column, role) != value) item.setData(column, role, value);
+}
+
+QVariant cellColour(Colour colour) {
+  return colour == Colour::WindowText ? QVariant() : QVariant(static_cast<uint>(colour));
+}
+
+QFont cellFont(const QWidget& list, bool bold) {
+  QFont font = list.font();
+  font.setBold(bold);
+  return font;
+}
+
+// "Tir, niveau 3": what a screen reader says of a row.
+QString spokenRow(const ListItem& row) {
+  const QString name = toQt(row.Text());
+  if (row.subItemCount() < 1 || row.SubItems(1).empty()) return name;
+  const QString level = toQt(row.SubItems(1));
+  return name + ", " + (level.front().isLetter() ? level : "niveau " + level);
+}
+
+}  // namespace
+
+void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
+  Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+  if (list_.labelEdit()) flags |= Qt::ItemIsEditable;
+  if (item.flags() != flags) item.setFlags(flags);
+  write(item, 0, Qt::DisplayRole, toQt(row.Text()));
+  write(item, 0, Qt::FontRole, cellFont(tree_, row.Bold()));
+  write(item, 0, cellColourRole, cellColour(row.ForeColor()));
+  write(item, 0, Qt::AccessibleTextRole, spokenRow(row));
+  if (list_.checkBoxes()) write(item, 0, Qt::CheckStateRole, row.Checked() ? Qt::Checked : Qt::Unchecked);
+  for (int column = 1; column <= row.subItemCount() && column < tree_.columnCount(); ++column) {
+    const auto& header = list_.ColumnHeaders()[static_cast<std::size_t>(column)];
+    const Qt::Alignment side = header.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
+    write(item, column, Qt::DisplayRole, toQt(row.SubItems(column)));
+    write(item, column, Qt::TextAlignmentRole, static_cast<int>(side | Qt::AlignVCenter));
+    write(item, column, Qt::FontRole, cellFont(tree_, row.ListSubItems(column).Bold()));
+    write(item, column, cellColourRole, cellColour(row.ListSubItems(column).ForeColor()));
+  }
+}
+
+int ListViewView::widthOfTexts(int column) const {
+  const int margin = tree_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &tree_) + 1;
+  int widest = 0;
+  for (int i = 0; i < tree_.topLevelItemCount(); ++i) {
+    const auto* item = tree_.topLevelItem(i);
+    const QFontMetrics measures(item->data(column, Qt::FontRole).value<QFont>());
+    widest = std::max(widest, measures.horizontalAdvance(item->text(column)));
+  }
+  return widest + 2 * margin + 2;
+}
+
+// As wide as the control says, or wider where the font needs it.
+void ListViewView::fitColumns() {
+  for (int column = 1; column < static_cast<int>(list_.ColumnHeaders().size()); ++column) {
+    const float width = list_.ColumnHeaders()[static_cast<std::size_t>(column)].width;
+    if (width > 0) tree_.header()->resizeSection(column, std::max(pixels(width), widthOfTexts(column)));
+  }
+}
+
+void ListViewView::showSelection() {
+  auto* item = list_.SelectedItem() ? tree_.topLevelItem(list_.SelectedItem()->Index() - 1) : nullptr;
+  if (tree_.currentItem() == item && (!item || item->isSelected())) return;
+  tree_.setCurrentItem(item);
+  if (item) tree_.scrollToItem(item);
+}
+
+// --- What the user does
+
+bool ListViewView::viewportEvent(QEvent& event) {
+  if (event.type() == QEvent::Resize && list_.SelectedItem())
+    tree_.scrollToItem(tree_.topLevelItem(list_.SelectedItem()->Index() - 1));
+  const bool twice = event.type() == QEvent::MouseButtonDblClick;
+  if (event.type() != QEvent::MouseButtonPress && !twice) return false;
+  const auto& mouse = static_cast<QMouseEvent&>(event);
+  return mouse.button() != Qt::LeftButton || pressed(mouse.position().toPoint(), twice);
+}
+
+bool ListViewView::pressed(const QPoint& where, bool twice) {
+  auto* item = tree_.itemAt(where);
+  if (!item) return true;
+  const bool again = item == tree_.currentItem() && tree_.hasFocus();
+  secondClick_.stop();
+  if (list_.checkBoxes() && onCheckBox(*item, where)) {
+    toggle(item);
+  } else if (twice && list_.labelEdit()) {
+    beginEdit();  // the first of the two clicks has clicked the row
+  } else {
+    clickRow(item);
+    if (again && list_.labelEdit()) secondClick_.start();
+  }
+  return true;
+}
+
+bool ListViewView::onCheckBox(QTreeWidgetItem& item, const QPoint& where) const {
+  QStyleOptionViewItem option;
+  option.initFrom(&tree_);
+  option.rect = tree_.visualItemRect(&item);
+  option.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDisplay;
+  option.widget = &tree_;
+  return tree_.style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &tree_).contains(where);
+}
+
+bool ListViewView::keyPressed(QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<QKeyEvent&>(event).key();
+  if (key == Qt::Key_Space && list_.checkBoxes())
+    toggle(tree_.currentItem());
+  else if (key == Qt::Key_F2 && list_.labelEdit()) {
+    clickRow(tree_.currentItem());
+    beginEdit();
+  } else
+    return false;
+  return true;
+}
+
+void ListViewView::clickRow(QTreeWidgetItem* item) {
+  if (!item) return;
+  const int row = positionOf(item);
+  act([&](User& user) { user.row(list_, row); });
+}
+
+void ListViewView::toggle(QTreeWidgetItem* item) {
+  if (!item) return;
+  const int row = positionOf(item);
+  act([&](User& user) { user.toggle(list_, row); });
+}
+
+void ListViewView::beginEdit() {
+  if (edited_) return;
+  bool allowed = false;
+  perform([&] { allowed = list_.beginEdit(); });
+  if (!allowed || isDetached()) return;
+  edited_ = list_.SelectedItem();
+  tree_.editItem(tree_.topLevelItem(edited_->Index() - 1), 0);
+}
+
+void ListViewView::endEdit(const QString& text) {
+  if (auto row = std::exchange(edited_, nullptr)) perform([&] { list_.endEdit(row, fromQt(text)); });
+}
+
+}  // namespace orvane

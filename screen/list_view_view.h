@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "screen/view.h"
+#include "surface/listview.h"
+
+namespace orvane {
+
+// The rows of a list view, a tree item for each; the first column takes the room that the others leave.
+class ListViewView final : public View {
+ public:
+  ListViewView(ListView& list, QTreeWidget& tree, FormView& form);
+
+ private:
+  void show() override;
+  void showColumns();
+  void showRows();
+  void showRow(const ListItem& row, QTreeWidgetItem& item) const;
+  void showSelection();
+  void fitColumns();
+  int widthOfTexts(int column) const;
+
+  bool viewportEvent(QEvent& event);
+  bool keyPressed(QEvent& event);
+  bool pressed(const QPoint& where, bool twice);
+  bool onCheckBox(QTreeWidgetItem& item, const QPoint& where) const;
+  void clickRow(QTreeWidgetItem* item);
+  void toggle(QTreeWidgetItem* item);
+  // Of the selected row, whose name the user has asked for.
+  void beginEdit();
+  void endEdit(const QString& text);
+  int positionOf(QTreeWidgetItem* item) const { return tree_.indexOfTopLevelItem(item) + 1; }
+
+  ListView& list_;
+  QTreeWidget& tree_;
+  ListItemRef edited_;
+  QTimer secondClick_;
+};
+
+}  // namespace orvane

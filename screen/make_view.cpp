@@ -1,0 +1,69 @@
+#include "screen/make_view.h"
+
+#include <stdexcept>
+
+#include "screen/button_view.h"
+#include "screen/check_box_view.h"
+#include "screen/combo_box_view.h"
+#include "screen/form_view.h"
+#include "screen/frame_view.h"
+#include "screen/label_view.h"
+#include "screen/list_box_view.h"
+#include "screen/list_view_view.h"
+#include "screen/option_button_view.h"
+#include "screen/picture_box_view.h"
+#include "screen/rich_text_box_view.h"
+#include "screen/scroll_bar_view.h"
+#include "screen/tab_control_view.h"
+#include "screen/text_box_view.h"
+
+namespace orvane {
+namespace {
+
+using Maker = std::unique_ptr<View> (*)(Control&, QWidget&, FormView&);
+
+template <class ControlKind, class WidgetKind, class ViewKind>
+std::unique_ptr<View> make(Control& control, QWidget& widget, FormView& form) {
+  auto* kind = dynamic_cast<ControlKind*>(&control);
+  auto* shown = qobject_cast<WidgetKind*>(&widget);
+  if (!kind || !shown) return nullptr;
+  return std::make_unique<ViewKind>(*kind, *shown, form);
+}
+
+// Which widgets show which kinds.
+constexpr Maker makers[] = {
+    make<TextBox, QLineEdit, LineEditView>,
+    make<TextBox, QPlainTextEdit, MultiLineView>,
+    make<ComboBox, QComboBox, ComboBoxView>,
+    make<ListBox, QListWidget, ListBoxView>,
+    make<OptionButton, QRadioButton, OptionButtonView>,
+    make<CheckBox, QCheckBox, CheckBoxView>,
+    make<CommandButton, QAbstractButton, ButtonView>,
+    make<Label, QLabel, LabelView>,
+    make<Frame, QWidget, FrameView>,
+    make<Image, QLabel, ImageView>,
+    make<ListView, QTreeWidget, ListViewView>,
+    make<TabControl, QTabWidget, TabControlView>,
+    make<PictureBox, QWidget, PictureBoxView>,
+    make<ScrollBar, QScrollBar, ScrollBarView>,
+    make<RichTextBox, QTextBrowser, RichTextBoxView>,
+};
+
+bool hasNoWidget(const Control& control) { return control.kind() == "rectangle" || control.kind() == "menu"; }
+
+[[noreturn]] void missing(const Control& control, const std::string& what) {
+  throw std::logic_error(control.form().Name() + ": " + control.id() + " has no widget" + what);
+}
+
+}  // namespace
+
+std::unique_ptr<View> makeView(Control& control, FormView& form) {
+  if (hasNoWidget(control)) return nullptr;
+  auto* widget = form.root().findChild<QWidget*>(widgetName(control));
+  if (!widget) missing(control, "");
+  for (const auto& maker : makers)
+    if (auto view = maker(control, *widget, form)) return view;
+  missing(control, std::string(" that suits it but a ") + widget->metaObject()->className());
+}
+
+}  // namespace orvane

@@ -1,0 +1,30 @@
+#include "screen/program.h"
+
+#include <QApplication>
+
+#include "canvas/qt_pictures.h"
+#include "screen/qt_settings.h"
+#include "screen/screen_dialogs.h"
+#include "screen/windows.h"
+#include "shell/main_procedure.h"
+#include "surface/disk_files.h"
+#include "surface/system_clock.h"
+
+namespace orvane {
+
+int runProgram() {
+  QApplication::setQuitOnLastWindowClosed(false);
+  ScreenDialogs dialogs;
+  SystemClock clock;
+  QtSettings settings;
+  DiskFiles files;
+  QtPictures pictures;
+  Run run({dialogs, clock, settings, files, pictures});
+  Windows windows(run.desktop());
+  windows.closed = [] { QCoreApplication::quit(); };
+  dialogs.setWindows(windows);
+  run.desktop().perform([&run] { run.Main(); });
+  return run.mainWindow() ? QApplication::exec() : 1;
+}
+
+}  // namespace orvane

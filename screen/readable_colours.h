@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include "surface/property.h"
+
+// The colours of the controls, made readable on whatever palette the user has chosen.
+namespace orvane {
+
+// What texts need against their background.
+inline constexpr double readableContrast = 4.5;
+
+// From 1, the same brightness, to 21, black on white.
+double contrast(const QColor& one, const QColor& other);
+
+// 0xBBGGRR; a system colour is looked up in the palette.
+QColor screenColour(Colour colour, const QPalette& palette);
+
+// The colour, lightened or darkened as far as its contrast to the background asks for.
+QColor readable(const QColor& colour, const QColor& background, double wanted = readableContrast);
+
+// A palette for a box with that BackColor: the palette itself for the colours of the system; for marks their colour,
+// darkened on dark palettes, with text that can be read on it.
+QPalette boxPalette(Colour backColor, const QPalette& palette);
+
+// What a mark says in words; empty for the colours of the system.
+QString markInWords(Colour backColor);
+
+}  // namespace orvane

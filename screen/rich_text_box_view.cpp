@@ -1,0 +1,24 @@
+#include "screen/rich_text_box_view.h"
+
+#include "screen/qt_text.h"
+#include "screen/rich_text_view.h"
+#include "surface/failure.h"
+
+namespace orvane {
+
+RichTextBoxView::RichTextBoxView(RichTextBox& box, QTextBrowser& browser, FormView& form)
+    : View(box, browser, form), box_(box), browser_(browser) {
+  browser_.setOpenLinks(false);
+}
+
+void RichTextBoxView::show() {
+  const QSignalBlocker silent(browser_);
+  if (box_.TextRTF().empty()) return browser_.setPlainText(shownLines(box_.Text()));
+  try {
+    showRichText(readRichText(box_.TextRTF()), browser_.palette(), *browser_.document());
+  } catch (const Failure& failure) {
+    browser_.setPlainText(toQt(failure.what()));
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QScrollBar>
+
+#include "screen/view.h"
+#include "surface/scrollbar.h"
+
+namespace orvane {
+
+class ScrollBarView final : public View {
+ public:
+  ScrollBarView(ScrollBar& control, QScrollBar& bar, FormView& form);
+
+ private:
+  void show() override;
+  bool rolled(QEvent& event);
+  void scrollTo(int value);
+
+  ScrollBar& scroll_;
+  QScrollBar& bar_;
+};
+
+}  // namespace orvane

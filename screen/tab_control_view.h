@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QTabWidget>
+
+#include "screen/view.h"
+#include "surface/tabcontrol.h"
+
+namespace orvane {
+
+// Qt changes the tab only after the control did: when the current tab is disabled it would else walk to another one.
+class TabControlView final : public View {
+ public:
+  TabControlView(TabControl& tabs, QTabWidget& widget, FormView& form);
+
+  QWidget& focusWidget() override;
+
+ private:
+  void show() override;
+  bool barEvent(QEvent& event);
+  void pick(int tab);
+  // To the next tab on that side that is open.
+  void pickBeside(int step);
+
+  TabControl& tabs_;
+  QTabWidget& widget_;
+};
+
+}  // namespace orvane

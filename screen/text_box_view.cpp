@@ -1,0 +1,57 @@
+#include "screen/text_box_view.h"
+
+#include <algorithm>
+
+#include <QSignalBlocker>
+#include <QTextCursor>
+
+#include "screen/box_colour.h"
+#include "screen/qt_text.h"
+
+namespace orvane {
+
+LineEditView::LineEditView(TextBox& box, QLineEdit& edit, FormView& form)
+    : View(box, edit, form), box_(box), edit_(edit) {
+  edit_.setReadOnly(box_.readOnly());
+  on(&edit_, &QLineEdit::textEdited,
+     [this](const QString& text) { act([&](User& user) { user.type(box_, fromQt(text)); }); });
+}
+
+void LineEditView::show() {
+  const QSignalBlocker silent(edit_);
+  showBoxColour(edit_, box_.BackColor());
+  const QString text = toQt(box_.Text());
+  if (edit_.text() == text) return;
+  const int cursor = edit_.cursorPosition();
+  edit_.setText(text);
+  edit_.setCursorPosition(edit_.hasFocus() ? std::min<int>(cursor, static_cast<int>(text.size())) : 0);
+}
+
+MultiLineView::MultiLineView(TextBox& box, QPlainTextEdit& edit, FormView& form)
+    : View(box, edit, form), box_(box), edit_(edit) {
+  edit_.setReadOnly(box_.readOnly());
+  edit_.setTabChangesFocus(true);
+  // A box that cannot be typed into is read with the keyboard all the same.
+  if (box_.readOnly()) edit_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  on(&edit_, &QPlainTextEdit::textChanged, [this] { typed(); });
+}
+
+void MultiLineView::show() {
+  const QSignalBlocker silent(edit_);
+  showBoxColour(edit_, box_.BackColor());
+  const QString text = shownLines(box_.Text());
+  if (edit_.toPlainText() == text) return;
+  const int position = edit_.textCursor().position();
+  edit_.setPlainText(text);
+  QTextCursor cursor = edit_.textCursor();
+  cursor.setPosition(edit_.hasFocus() && !box_.readOnly() ? std::min(position, static_cast<int>(text.size())) : 0);
+  edit_.setTextCursor(cursor);
+}
+
+void MultiLineView::typed() {
+  // The document also reports changes of its formats.
+  if (edit_.toPlainText() == shownLines(box_.Text())) return;
+  act([this](User& user) { user.type(box_, typedLines(edit_.toPlainText())); });
+}
+
+}  // namespace orvane

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "screen/view.h"
+#include "surface/textbox.h"
+
+namespace orvane {
+
+// A text box of one line.
+class LineEditView final : public View {
+ public:
+  LineEditView(TextBox& box, QLineEdit& edit, FormView& form);
+
+ private:
+  void show() override;
+
+  TextBox& box_;
+  QLineEdit& edit_;
+};
+
+// A text box of several lines: CR LF in the control is a line break on the screen and the other way round.
+class MultiLineView final : public View {
+ public:
+  MultiLineView(TextBox& box, QPlainTextEdit& edit, FormView& form);
+
+ private:
+  void show() override;
+  void typed();
+
+  TextBox& box_;
+  QPlainTextEdit& edit_;
+};
+
+}  // namespace orvane

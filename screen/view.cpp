@@ -1,0 +1,55 @@
+#include "screen/view.h"
+
+#include <utility>
+
+#include "screen/form_view.h"
+
+namespace orvane {
+namespace {
+
+class EventHook : public QObject {
+ public:
+  EventHook(QObject* parent, std::function<bool(QEvent&)> reaction) : QObject(parent), reaction_(std::move(reaction)) {}
+  bool eventFilter(QObject*, QEvent* event) override { return reaction_(*event); }
+
+ private:
+  std::function<bool(QEvent&)> reaction_;
+};
+
+}  // namespace
+
+View::View(Control& control, QWidget& widget, FormView& form) : control_(control), widget_(widget), form_(form) {
+  control_.watch(*this);
+}
+
+View::~View() { detach(); }
+
+void View::sync() {
+  widget_.setEnabled(control_.Enabled());
+  widget_.setVisible(control_.Visible());
+  show();
+}
+
+void View::detach() {
+  if (std::exchange(detached_, true)) return;
+  control_.unwatch(*this);
+}
+
+void View::controlChanged(Control&) { form_.schedule(*this); }
+
+void View::act(const std::function<void(User&)>& deed) {
+  if (!detached_) form_.act(*this, deed);
+}
+
+void View::perform(const std::function<void()>& step) {
+  act([&](User&) { form_.form().desktop().perform(step); });
+}
+
+View* View::viewOf(const Control& other) const { return form_.viewOf(other); }
+
+void View::onEvent(QWidget& widget, std::function<bool(QEvent&)> reaction) {
+  widget.installEventFilter(new EventHook(
+      &context_, [this, reaction = std::move(reaction)](QEvent& event) { return !detached_ && reaction(event); }));
+}
+
+}  // namespace orvane

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+
+#include <QEvent>
+#include <QObject>
+#include <QWidget>
+
+#include "surface/control.h"
+#include "surface/user.h"
+
+namespace orvane {
+
+class FormView;
+
+// The widget of one control. The control is the truth: a view reads it when it has changed, and turns what the user
+// does into acts; it keeps nothing of its own.
+class View : public ControlObserver {
+ public:
+  View(Control& control, QWidget& widget, FormView& form);
+  ~View() override;
+
+  Control& control() const { return control_; }
+  QWidget& widget() const { return widget_; }
+  // The one that gets the keyboard when the control has the focus.
+  virtual QWidget& focusWidget() { return widget_; }
+
+  // Brings the widget up to date; never runs a handler.
+  void sync();
+  // The form has ended: from now on neither side hears of the other.
+  void detach();
+
+  void controlChanged(Control& control) override;
+
+ protected:
+  // What the kind shows beyond enabled and visible. Writes with the signals of the widget blocked.
+  virtual void show() = 0;
+
+  // Does one act of the user, then brings the widget back to what the control says.
+  void act(const std::function<void(User&)>& deed);
+  // Runs what belongs to an act but has no name of its own among the acts.
+  void perform(const std::function<void()>& step);
+  bool isDetached() const { return detached_; }
+  // Of another control of the form; none when it is not on the screen.
+  View* viewOf(const Control& other) const;
+
+  template <class Sender, class Signal, class Reaction>
+  void on(Sender* sender, Signal signal, Reaction reaction) {
+    QObject::connect(sender, signal, &context_, reaction);
+  }
+  // Sees the events of a widget first; true ends an event there.
+  void onEvent(QWidget& widget, std::function<bool(QEvent&)> reaction);
+
+ private:
+  Control& control_;
+  QWidget& widget_;
+  FormView& form_;
+  bool detached_ = false;
+  QObject context_;
+};
+
+}  // namespace orvane

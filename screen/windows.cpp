@@ -1,0 +1,133 @@
+#include "screen/windows.h"
+
+#include <algorithm>
+
+#include <QScopedValueRollback>
+
+#include "screen/arranging.h"
+
+namespace orvane {
+namespace {
+
+template <class Window>
+Window* windowOf(const std::vector<Window*>& windows, const Form& form) {
+  const auto found =
+      std::find_if(windows.begin(), windows.end(), [&](auto* window) { return &window->form() == &form; });
+  return found == windows.end() ? nullptr : *found;
+}
+
+}  // namespace
+
+Windows::Windows(Desktop& desktop) : desktop_(desktop), acts_(desktop) { desktop_.watch(*this); }
+
+Windows::~Windows() {
+  desktop_.unwatch(*this);
+  following_ = true;
+  for (auto* dialog : dialogs_) delete dialog;
+}
+
+ChildWindow* Windows::childOf(const Form& form) const { return windowOf(children_, form); }
+DialogWindow* Windows::dialogOf(const Form& form) const { return windowOf(dialogs_, form); }
+
+void Windows::shown(Form& form) {
+  switch (form.role()) {
+    case Form::Role::Frame:
+      return showFrame(form);
+    case Form::Role::Child:
+      return showChild(form);
+    case Form::Role::Dialog:
+      return openDialog(form).openOnScreen();
+  }
+}
+
+void Windows::showFrame(Form& form) {
+  main_ = std::make_unique<MainWindow>(static_cast<frmMain&>(form), acts_);
+  QObject::connect(&main_->area(), &QMdiArea::subWindowActivated, &main_->area(),
+                   [this](QMdiSubWindow* window) { activatedByUser(window); });
+  main_->open();
+}
+
+void Windows::showChild(Form& form) {
+  const QScopedValueRollback following(following_, true);
+  auto* window = childOf(form);
+  if (!window) {
+    window = new ChildWindow(form, acts_);
+    main_->area().addSubWindow(window, window->windowFlags());
+    window->openIn(main_->area().viewport()->size());
+    window->move(freeCorner());
+    children_.push_back(window);
+  }
+  if (window->isMinimized()) window->showNormal();
+  window->show();
+  main_->area().setActiveSubWindow(window);
+}
+
+// Beside the window opened last, so that the title bars of all can be seen.
+QPoint Windows::freeCorner() const {
+  constexpr int step = 28;
+  const auto taken = [&](const QPoint& corner) {
+    return std::any_of(children_.begin(), children_.end(), [&](auto* window) { return window->pos() == corner; });
+  };
+  for (int i = 0; i < 8; ++i)
+    if (const QPoint corner(i * step, i * step); !taken(corner)) return corner;
+  return {};
+}
+
+DialogWindow& Windows::openDialog(Form& form) {
+  if (auto* open = dialogOf(form)) return *open;
+  return *dialogs_.emplace_back(new DialogWindow(form, acts_, main_.get()));
+}
+
+void Windows::runModal(Form& form) {
+  if (!form.wasUnloaded()) openDialog(form).runModal();
+}
+
+void Windows::unloaded(Form& form) {
+  const QScopedValueRollback following(following_, true);
+  if (auto* child = childOf(form)) {
+    std::erase(children_, child);
+    child->end();
+    main_->area().removeSubWindow(child);
+  } else if (auto* dialog = dialogOf(form)) {
+    std::erase(dialogs_, dialog);
+    dialog->end();
+  } else if (form.role() == Form::Role::Frame && main_) {
+    main_->end();
+    main_.release()->deleteLater();
+    if (closed) closed();
+  }
+}
+
+void Windows::activated(Form& form) {
+  const QScopedValueRollback following(following_, true);
+  auto* window = childOf(form);
+  if (!window) return;
+  if (window->isMinimized()) window->showNormal();
+  main_->area().setActiveSubWindow(window);
+}
+
+void Windows::activatedByUser(QMdiSubWindow* window) {
+  auto* child = dynamic_cast<ChildWindow*>(window);
+  if (following_ || !child || desktop_.activeChild() == &child->form()) return;
+  const bool done = acts_.perform([&](User& user) { user.activate(child->form()); });
+  if (!done && desktop_.activeChild()) activated(*desktop_.activeChild());
+}
+
+void Windows::captionChanged(Form& form) {
+  if (auto* child = childOf(form)) child->showCaption();
+  if (auto* dialog = dialogOf(form)) dialog->showCaption();
+}
+
+void Windows::refresh(Form& form) {
+  if (auto* dialog = dialogOf(form)) dialog->paintNow();
+}
+
+void Windows::arrange(Arrangement arrangement) {
+  if (!main_) return;
+  std::vector<ChildWindow*> open;
+  for (auto* form : desktop_.activationOrder())
+    if (auto* window = childOf(*form)) open.push_back(window);
+  orvane::arrange(main_->area(), open, arrangement);
+}
+
+}  // namespace orvane

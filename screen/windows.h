@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "screen/acts.h"
+#include "screen/child_window.h"
+#include "screen/dialog_window.h"
+#include "screen/main_window.h"
+#include "surface/desktop.h"
+
+namespace orvane {
+
+// The windows of all forms that are shown.
+class Windows final : public DesktopObserver {
+ public:
+  explicit Windows(Desktop& desktop);
+  ~Windows() override;
+
+  Acts& acts() { return acts_; }
+  MainWindow* mainWindow() const { return main_.get(); }
+  // None for a form without an open window.
+  ChildWindow* childOf(const Form& form) const;
+  DialogWindow* dialogOf(const Form& form) const;
+  // Shows a form and blocks until it is unloaded.
+  void runModal(Form& form);
+  // Run once the main window has closed.
+  std::function<void()> closed;
+
+  void shown(Form& form) override;
+  void unloaded(Form& form) override;
+  void activated(Form& form) override;
+  void captionChanged(Form& form) override;
+  void refresh(Form& form) override;
+  void arrange(Arrangement arrangement) override;
+
+ private:
+  void showFrame(Form& form);
+  void showChild(Form& form);
+  DialogWindow& openDialog(Form& form);
+  QPoint freeCorner() const;
+  void activatedByUser(QMdiSubWindow* window);
+
+  Desktop& desktop_;
+  Acts acts_;
+  std::unique_ptr<MainWindow> main_;
+  // Those of unloaded forms are gone from here, and deleted later by Qt.
+  std::vector<ChildWindow*> children_;
+  std::vector<DialogWindow*> dialogs_;
+  // True while Qt follows the desktop and not the user.
+  bool following_ = false;
+};
+
+}  // namespace orvane
