@@ -30,7 +30,7 @@ class frmPersonnage : public Form {
   explicit frmPersonnage(Globals& globals);
 
   // The tabs, by position.
-  enum Tabs { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation };
+  enum TabPosition { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation };
 
   // --- Around the tabs (frmPersonnage.cpp)
   Label Label2{*this, "Label2", {"Nom Joueur"}};
@@ -230,7 +230,7 @@ class frmPersonnage : public Form {
   void closeSkillSide();
   ProfileCopies copyProfiles() const;
   VehicleCode replaceVehicleCode(const ProfileCopies& profiles);
-  void replaceVehicleCode(clsProfil& profile);
+  void putVehicleSkill(clsProfil& profile);
   void resetMartialArts();
   bool buildSkillList(const ProfileCopies& profiles);
   bool addProfileSkill(const clsSkill& skill);
@@ -260,8 +260,8 @@ class frmPersonnage : public Form {
   clsMartialArt& artOf(const ListItem& row) const;
   clsMartialTechnic& technicOf(const ListItem& row) const;
   int addTechnicRows(const ListItem& artRow);
-  void takeMartialPoint(ListItem& row);
-  void putMartialPoint(ListItem& row);
+  void removeMartialPoint(ListItem& row);
+  void addMartialPoint(ListItem& row);
 
   // --- Mutation
   void chkMuta_Click();

@@ -22,7 +22,7 @@ struct Globals {
   const ReferenceData& data;
   Chance chance;
 
-  // The points that a contact value costs, by value from 1 to 3.
+  // The points that a contact value costs, by value from 1 to 3 (place 0 is unused). Main fills it.
   std::array<std::int16_t, 4> iContactCost{};
   // The windows last created or activated; null once they were unloaded and no other of the kind is open.
   frmPersonnage* frmCurrentPerso = nullptr;

@@ -40,12 +40,12 @@ void frmPersonnage::cmdMartialArtModif_Click(std::int16_t Index) {
   if (!row)
     txtAllDescro.setText("!!! Pas d'art martial sélectionné !!!");
   else if (Index == 0)
-    takeMartialPoint(*row);
+    removeMartialPoint(*row);
   else
-    putMartialPoint(*row);
+    addMartialPoint(*row);
 }
 
-void frmPersonnage::takeMartialPoint(ListItem& row) {
+void frmPersonnage::removeMartialPoint(ListItem& row) {
   if (points(row) == 0) return;
   if (!prcMartialRestrict(globals_, row, -1)) return;
   if (points(row) <= lvwMartialTechnic.Count()) {
@@ -57,7 +57,7 @@ void frmPersonnage::takeMartialPoint(ListItem& row) {
   setPoints(row, points(row) - 1);
 }
 
-void frmPersonnage::putMartialPoint(ListItem& row) {
+void frmPersonnage::addMartialPoint(ListItem& row) {
   if (number(txtMartialArtRest) == 0) return;
   if (!prcMartialRestrict(globals_, row, 1)) return;
   // A point above the number of techniques buys none.

@@ -1,7 +1,6 @@
 #include "editor/martial_restrict.h"
 
 #include <cmath>
-#include <optional>
 
 #include "editor/frmPersonnage.h"
 #include "surface/desktop.h"
@@ -11,17 +10,19 @@
 namespace orvane {
 namespace {
 
+constexpr std::int16_t unknown = -1;
+
 double fullGroups(std::int16_t points, std::int16_t term) { return std::floor(static_cast<double>(points) / term); }
 
-std::int16_t pointsOf(const ListItem& row) { return toInt16(strictNumber(row.SubItems(2))); }
+double pointsOf(const ListItem& row) { return strictNumber(row.SubItems(2)); }
 
-// Offensive and defensive points of one art, as far as they are known.
+// Offensive and defensive points of one art.
 struct ArtPoints {
-  std::optional<std::int16_t> iO;
-  std::optional<std::int16_t> iD;
+  std::int16_t iO = unknown;
+  std::int16_t iD = unknown;
 
-  // The place for the points of a row; none for a row of an unknown direction.
-  std::optional<std::int16_t>* of(const ListItem& row) {
+  // The place for the points of a row; null for a row of another direction.
+  std::int16_t* of(const ListItem& row) {
     if (row.SubItems(1) == "Offensif") return &iO;
     if (row.SubItems(1) == "Défensif") return &iD;
     return nullptr;
@@ -33,7 +34,7 @@ void addPresentPoints(ArtPoints& points, const ListView& arts, const ListItem& I
   for (const auto& row : arts.rows()) {
     if (row->SubItems(3) != Item.SubItems(3)) continue;
     auto* place = points.of(*row);
-    if (place && !*place) *place = pointsOf(*row);
+    if (place && *place == unknown) *place = toInt16(pointsOf(*row));
   }
 }
 
@@ -58,11 +59,12 @@ bool prcMartialRestrict(Globals& globals, const ListItem& Item, std::int16_t iDe
   ArtPoints points;
   auto* changing = points.of(Item);
   if (!changing) return error(globals, "Error : type of Martial Art unknown.");
-  *changing = toInt16(strictNumber(Item.SubItems(2)) + iDelta);
+  *changing = toInt16(pointsOf(Item) + iDelta);
   addPresentPoints(points, perso.lvwMartialArt, Item);
-  if (!points.iO || !points.iD) return error(globals, "Error : Values for 2 Martial technic types not found.");
+  if (points.iO == unknown || points.iD == unknown)
+    return error(globals, "Error : Values for 2 Martial technic types not found.");
 
-  if (restrictionAllows(art.iRestrictO, art.iRestrictD, *points.iO, *points.iD)) return true;
+  if (restrictionAllows(art.iRestrictO, art.iRestrictD, points.iO, points.iD)) return true;
   perso.txtAllDescro.setText("!!! Vous devez tenir compte des restrictions en vigueur !!!" + std::string(crLf) +
                              std::string(crLf) + art.sDescro);
   return false;

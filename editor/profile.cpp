@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "data/reference_data.h"
 #include "editor/frmPersonnage.h"
 #include "editor/numbers_in_controls.h"
@@ -38,7 +36,7 @@ void frmPersonnage::cmbProfil_Click() {
 void frmPersonnage::resetSkillSide() {
   lvwSkillGen.Clear();
   itmSkillSel.reset();
-  txtSkillRest.setText("80");
+  setNumber(txtSkillRest, skillPoolBase);
   if (chkMuta.Value() == 0) add(txtSkillRest, pointsWithoutPower);
   if (!chkMuta.Enabled()) add(txtSkillRest, pointsForDraw);
   SSTabPerso.setTabEnabled(ArtsMartiaux, false);
@@ -69,13 +67,14 @@ frmPersonnage::VehicleCode frmPersonnage::replaceVehicleCode(const ProfileCopies
       if (key != vehicleCode) continue;
       if (found == VehicleCode::Replaced) return VehicleCode::Repeated;
       found = VehicleCode::Replaced;
-      replaceVehicleCode(*profile);
+      putVehicleSkill(*profile);
     }
   }
   return found;
 }
 
-void frmPersonnage::replaceVehicleCode(clsProfil& profile) {
+// Selects the default vehicle where none is selected.
+void frmPersonnage::putVehicleSkill(clsProfil& profile) {
   if (cmbVehicle.ListIndex() == -1) {
     iProfilChanging = true;
     cmbVehicle.setListIndex(0);
@@ -118,15 +117,15 @@ void frmPersonnage::warnOfRedundancy(const ProfileCopies& profiles, const clsSki
 
 bool frmPersonnage::addProfileSkill(const clsSkill& skill) {
   if (!paySkillPoints(profileSkillCost(skill.iStart))) return false;
-  const auto row = addSkillRow(skill, "1", true);
+  const auto row = addSkillRow(skill, numberText(profileSkillLevel), true);
   return skill.iKey != martialSkillKey || addMartialSkillLevels(*row);
 }
 
 bool frmPersonnage::addMartialSkillLevels(ListItem& row) {
   SSTabPerso.setTabEnabled(ArtsMartiaux, true);
-  txtMartialArtRest.setText("10");
+  setNumber(txtMartialArtRest, martialSkillLevel);
   if (!paySkillPoints(martialSkillExtraCost)) return false;
-  row.setSubItems(1, "10");
+  row.setSubItems(1, numberText(martialSkillLevel));
   row.setSubItems(3, row.SubItems(1));
   return true;
 }
@@ -143,6 +142,7 @@ ListItemRef frmPersonnage::addSkillRow(const clsSkill& skill, const std::string&
   return row;
 }
 
+// Says so and pays nothing where the pool is too small. What costs nothing is always paid.
 bool frmPersonnage::paySkillPoints(double cost) {
   if (cost > 0 && number(txtSkillRest) < cost) {
     desktop().MsgBox("Pas assez de points de compétences pour toutes les compétences du profil!", BoxStyle::Critical);

@@ -6,8 +6,8 @@ namespace orvane {
 
 LevelLimits levelLimits(const clsSkill& skill, bool ofProfile) {
   if (!ofProfile) return {static_cast<double>(skill.iStart), 4};
-  if (skill.iKey == martialSkillKey) return {10, 99};
-  return {1, 8};
+  if (skill.iKey == martialSkillKey) return {martialSkillLevel, 99};
+  return {profileSkillLevel, 8};
 }
 
 double profileSkillCost(std::int16_t iStart) { return iStart < 1 ? 1.0 - iStart : 0.0; }
@@ -19,6 +19,6 @@ int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::in
   return count;
 }
 
-bool isNamedByPlayer(const std::string& key) { return key == "56" || key == "57" || key == "59" || key == "60"; }
+bool isNamedByUser(const std::string& key) { return key == "56" || key == "57" || key == "59" || key == "60"; }
 
 }  // namespace orvane

@@ -13,6 +13,11 @@ namespace orvane {
 // The code of a profile that stands for the skill of the favourite vehicle.
 inline constexpr std::int16_t vehicleCode = 101;
 inline constexpr std::int16_t martialSkillKey = 58;
+// The pool that a profile starts from.
+inline constexpr double skillPoolBase = 80;
+// The levels that a profile brings, and with the second as many martial-art points.
+inline constexpr double profileSkillLevel = 1;
+inline constexpr double martialSkillLevel = 10;
 // Taken on top for the level 10 of the martial-arts skill of a profile.
 inline constexpr double martialSkillExtraCost = 9;
 // What the pool gains without a mutant power, and by having it drawn.
@@ -32,7 +37,7 @@ double profileSkillCost(std::int16_t iStart);
 // How often the profiles name a skill.
 int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::int16_t iKey);
 
-// The four skills that the player names.
-bool isNamedByPlayer(const std::string& key);
+// The four skills that the user names.
+bool isNamedByUser(const std::string& key);
 
 }  // namespace orvane

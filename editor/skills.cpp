@@ -67,7 +67,7 @@ void frmPersonnage::stepSkillUp(ListItem& row, double highest) {
 }
 
 void frmPersonnage::lvwSkillGen_BeforeLabelEdit(bool& Cancel) {
-  if (!isNamedByPlayer(lvwSkillGen.SelectedItem()->SubItems(2))) Cancel = true;
+  if (!isNamedByUser(lvwSkillGen.SelectedItem()->SubItems(2))) Cancel = true;
 }
 
 void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
@@ -76,7 +76,7 @@ void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
 
 bool frmPersonnage::prcSkillNotOnSheet(const ListItem& itm) const {
   if (itm.SubItems(2) == std::to_string(martialSkillKey)) return true;
-  return isNamedByPlayer(itm.SubItems(2)) && level(itm) <= skillOf(itm)->iStart;
+  return isNamedByUser(itm.SubItems(2)) && level(itm) <= skillOf(itm)->iStart;
 }
 
 }  // namespace orvane

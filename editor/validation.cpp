@@ -66,7 +66,7 @@ bool frmPersonnage::otherLanguageLacksItsName() const {
 
 void frmPersonnage::checkSkillNames(Verdict& verdict) {
   for (const auto& row : lvwSkillGen.rows()) {
-    if (!isNamedByPlayer(row->SubItems(2))) continue;
+    if (!isNamedByUser(row->SubItems(2))) continue;
     const bool broken = lacksItsName(*row);
     row->setForeColor(broken ? Colour::Red : Colour::WindowText);
     verdict.essential |= broken;

@@ -50,7 +50,9 @@ PreparedAct Control::prepareScroll(int) { refuse(*this, "faire défiler"); }
 void Control::unwatch(ControlObserver& observer) { std::erase(observers_, &observer); }
 
 void Control::changed() {
-  for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i]->controlChanged(*this);
+  const auto listening = observers_;  // one may come or go meanwhile
+  for (auto* observer : listening)
+    if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end()) observer->controlChanged(*this);
 }
 
 }  // namespace orvane

@@ -46,8 +46,8 @@ void Desktop::Arrange(Arrangement arrangement) {
 void Desktop::load(Form& form) {
   if (form.state_ != Form::State::Fresh) return;
   Scope scope(*this);
-  form.state_ = Form::State::Loaded;
   forms_.push_back(form.shared_from_this());
+  form.state_ = Form::State::Loaded;
   runLoad(form);
 }
 
@@ -55,8 +55,8 @@ void Desktop::runLoad(Form& form) {
   try {
     form.Form_Load();
   } catch (...) {
-    // A form that could not be loaded is no form: nothing half-made stays in Forms.
-    unload(form);
+    // A form that could not be loaded is no form: nothing half-made stays in Forms, nor has a say at its end.
+    if (form.isLoaded()) discard(form);
     throw;
   }
 }
@@ -94,6 +94,10 @@ void Desktop::unload(Form& form) {
   if (form.role() == Form::Role::Frame) closeChildren();
   // Whatever goes wrong at its end, the form closes.
   perform([&] { form.Form_Unload(); });
+  discard(form);
+}
+
+void Desktop::discard(Form& form) {
   const bool wasActive = activeChild() == &form;
   form.state_ = Form::State::Unloaded;
   form.visible_ = false;
@@ -108,15 +112,19 @@ void Desktop::unload(Form& form) {
 }
 
 void Desktop::closeChildren() {
-  closing_ = true;
   const auto open = forms_;
   for (const auto& form : open)
     if (form->role() != Form::Role::Frame) unload(*form);
-  closing_ = false;
+}
+
+bool Desktop::frameCloses() const {
+  return std::any_of(forms_.begin(), forms_.end(), [](const auto& form) {
+    return form->role() == Form::Role::Frame && form->state_ == Form::State::Closing;
+  });
 }
 
 void Desktop::activateLast() {
-  if (closing_ || activation_.empty()) return;
+  if (activation_.empty() || frameCloses()) return;
   Form& next = *activation_.back();
   tell([&](DesktopObserver& observer) { observer.activated(next); });
   next.Form_Activate();
@@ -144,7 +152,9 @@ void Desktop::perform(const std::function<void()>& act) {
 void Desktop::unwatch(DesktopObserver& observer) { std::erase(observers_, &observer); }
 
 void Desktop::tell(const std::function<void(DesktopObserver&)>& news) {
-  for (std::size_t i = 0; i < observers_.size(); ++i) news(*observers_[i]);
+  const auto listening = observers_;  // one may come or go meanwhile
+  for (auto* observer : listening)
+    if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end()) news(*observer);
 }
 
 }  // namespace orvane

@@ -79,7 +79,9 @@ class Desktop {
   void enter() { ++depth_; }
   void leave();
   void runLoad(Form& form);
+  void discard(Form& form);
   void closeChildren();
+  bool frameCloses() const;
   void activateLast();
 
   World world_;
@@ -89,7 +91,6 @@ class Desktop {
   std::vector<std::shared_ptr<Form>> unloaded_;
   std::vector<DesktopObserver*> observers_;
   int depth_ = 0;
-  bool closing_ = false;
 };
 
 }  // namespace orvane

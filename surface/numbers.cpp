@@ -20,8 +20,9 @@ class NumberScanner {
   std::string scan() {
     while (peek() == ' ') rest_.remove_prefix(1);
     take('+', '-');
-    const bool hasDigits = digits() + (take('.', '.') ? digits() : 0) > 0;
-    if (!hasDigits) return {};
+    int count = digits();
+    if (take('.', '.')) count += digits();
+    if (count == 0) return {};
     exponent();
     if (number_.front() == '+') number_.erase(0, 1);
     return number_;
@@ -62,12 +63,25 @@ class NumberScanner {
   std::string number_;
 };
 
+// The power of ten of the first digit that is not 0: what is out of range is too large or too small by it.
+long magnitude(std::string_view number) {
+  const auto mark = std::min(number.find_first_of("eE"), number.size());
+  const auto mantissa = number.substr(0, mark);
+  const auto point = std::min(mantissa.find('.'), mantissa.size());
+  const auto first = std::min(mantissa.find_first_of("123456789"), mantissa.size());
+  long exponent = 0;
+  if (mark < number.size()) {
+    const auto digits = number.substr(mark + (number[mark + 1] == '+' ? 2 : 1));
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec != std::errc())
+      exponent = digits.front() == '-' ? -1000000 : 1000000;
+  }
+  return exponent + static_cast<long>(point) - static_cast<long>(first);
+}
+
 double parsed(std::string_view number) {
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-  // Out of range is also what is too small to be told from 0: that has a negative exponent.
-  const bool tiny = number.find('-', 1) != std::string_view::npos;
-  if (result.ec == std::errc::result_out_of_range && !tiny)
+  if (result.ec == std::errc::result_out_of_range && magnitude(number) > 0)
     throw Failure("Nombre trop grand : " + std::string(number.substr(0, 40)) + ".");
   return value;
 }

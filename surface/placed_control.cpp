@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-float PlacedControl::unit() const {
+double PlacedControl::unit() const {
   if (const auto* picture = dynamic_cast<const PictureBox*>(holder())) return twipsPerUnit(picture->ScaleMode());
   return twipsPerUnit(form().ScaleMode());
 }
@@ -24,8 +24,8 @@ void PlacedControl::Move(float left, float top, float width, float height) {
 }
 
 void PlacedControl::setSizeTwips(float width, float height) {
-  store(width_, width);
-  store(height_, height);
+  store(width_, static_cast<double>(width));
+  store(height_, static_cast<double>(height));
 }
 
 void PlacedControl::ZOrder() {

@@ -9,10 +9,10 @@ class PlacedControl : public Control {
  public:
   using Control::Control;
 
-  float Left() const { return left_ / unit(); }
-  float Top() const { return top_ / unit(); }
-  float Width() const { return width_ / unit(); }
-  float Height() const { return height_ / unit(); }
+  float Left() const { return static_cast<float>(left_ / unit()); }
+  float Top() const { return static_cast<float>(top_ / unit()); }
+  float Width() const { return static_cast<float>(width_ / unit()); }
+  float Height() const { return static_cast<float>(height_ / unit()); }
   void setLeft(float left) { store(left_, left * unit()); }
   void setTop(float top) { store(top_, top * unit()); }
   void setWidth(float width) { store(width_, width * unit()); }
@@ -26,21 +26,22 @@ class PlacedControl : public Control {
   int zOrder() const { return zOrder_; }
 
   // In twips, whatever the scale.
-  float leftTwips() const { return left_; }
-  float topTwips() const { return top_; }
-  float widthTwips() const { return width_; }
-  float heightTwips() const { return height_; }
+  float leftTwips() const { return static_cast<float>(left_); }
+  float topTwips() const { return static_cast<float>(top_); }
+  float widthTwips() const { return static_cast<float>(width_); }
+  float heightTwips() const { return static_cast<float>(height_); }
 
  protected:
   void setSizeTwips(float width, float height);
 
  private:
-  float unit() const;
+  double unit() const;
 
-  float left_ = 0;
-  float top_ = 0;
-  float width_ = 0;
-  float height_ = 0;
+  // Twips; precise enough to give back any measure that was written in another scale.
+  double left_ = 0;
+  double top_ = 0;
+  double width_ = 0;
+  double height_ = 0;
   int zOrder_ = 0;
 };
 

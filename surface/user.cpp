@@ -20,13 +20,14 @@ void User::moveFocus(Control& control) {
   if (form.focused_ == &control) return;
   // The one that loses the focus is told while it still seems to have it, so it cannot be told twice.
   Control* former = std::exchange(form.focused_, &control);
-  if (former) former->LostFocus.fire();
-  control.GotFocus.fire();
+  if (former) desktop_.perform([&] { former->LostFocus.fire(); });
+  desktop_.perform([&] { control.GotFocus.fire(); });
 }
 
 void User::act(Control& control, const PreparedAct& prepared) {
   desktop_.perform([&] {
-    desktop_.activate(control.form());
+    // What fails on the way is told and does not hold up the act.
+    desktop_.perform([&] { desktop_.activate(control.form()); });
     if (control.takesFocus()) moveFocus(control);
     // A handler of the focus may have closed the window or disabled the control.
     if (control.form().isLoaded() && !control.unreachable()) prepared();

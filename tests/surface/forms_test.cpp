@@ -77,7 +77,7 @@ TEST_F(Forms, AFailedLoadLeavesNoFormBehind) {
   noted();
   open("B", Form::Role::Child, {.load = [](Sample& form) { form.list.setListIndex(9); }});
   EXPECT_EQ(told(), Log{"failure|Pas d'entrée 9 dans la liste list."});
-  EXPECT_EQ(noted(), (Log{"B: Form_Load", "B: Form_Unload", "B: freed"}));
+  EXPECT_EQ(noted(), (Log{"B: Form_Load", "B: freed"}));
   EXPECT_EQ(openForms(), Log{"A"});
 }
 

@@ -22,6 +22,9 @@ TEST(Numbers, PrefixIsReadAsFarAsItGoes) {
   EXPECT_EQ(numericPrefix("3e"), 3);
   EXPECT_EQ(numericPrefix("3e+"), 3);
   EXPECT_EQ(numericPrefix("1e-999"), 0);
+  EXPECT_EQ(numericPrefix("0." + std::string(400, '0') + "1"), 0);
+  EXPECT_EQ(numericPrefix("1e-99999999999999999999"), 0);
+  EXPECT_THROW(numericPrefix(std::string(400, '9') + "e-5"), Failure);
   EXPECT_THROW(numericPrefix("1e999"), Failure);
 }
 
