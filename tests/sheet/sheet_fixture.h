@@ -13,7 +13,8 @@
 #include "surface/desktop.h"
 #include "surface/user.h"
 #include "tests/sheet/letter_pictures.h"
-#include "tests/support/test_world.h"
+#include "tests/support/fakes.h"
+#include "tests/support/logged_dialogs.h"
 
 namespace orvane::test {
 
@@ -84,8 +85,8 @@ class SheetRun : public ::testing::Test {
   }
 
   LoggedDialogs dialogs;
-  FixedClock clock;
-  MemorySettings settings;
+  FakeClock clock;
+  NoSettings settings;
   F files;
   LetterPictures pictures;
   ReferenceData data = tinyData();
