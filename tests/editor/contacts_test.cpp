@@ -295,6 +295,16 @@ TEST_F(Contacts, AListThatDisagreesWithTheRecordsIsTold) {
   EXPECT_EQ(records(), "reste 13") << "and the deletion went on";
 }
 
+TEST_F(Contacts, TheDescriptionIsKeptWhenItsBoxIsLeft) {
+  create("Anne", "a");
+  create("Bob", "b");
+  perso->txtContactDescro.setText("c");
+  user.focus(perso->txtContactDescro);
+  EXPECT_NE(refusal([&] { user.type(perso->txtContactDescro, "d"); }), "") << "the dialog is the way to change it";
+  user.pick(perso->lstContact, "Anne");
+  EXPECT_EQ(records(), "Anne 0/0 a; Bob 0/0 c; reste 14");
+}
+
 TEST_F(Contacts, AValueWithoutAPriceFails) {
   create("Anne");
   perso->txtContact(0).setText("4");

@@ -25,8 +25,9 @@ TEST_F(Forms, ClosingGivesTheWindowBeforeItBack) {
 
 TEST_F(Forms, ClosingTheFrameClosesAllWindowsFirst) {
   Sample& frame = open("cadre", Form::Role::Frame);
-  open("A");
+  Sample& a = open("A");
   open("B");
+  user.activate(a);
   noted();
   user.close(frame);
   EXPECT_EQ(openForms(), Log{});
@@ -142,6 +143,27 @@ TEST_F(Forms, AModalFormThatCannotBeRunBlocksNothing) {
   EXPECT_EQ(told(), Log{"failure|pas d'écran"});
   EXPECT_EQ(openForms(), Log{"A"});
   EXPECT_EQ(refusal([&] { user.click(a.button); }), "");
+}
+
+TEST_F(Forms, ObserversHearWhatHappensToWindows) {
+  struct Listener : DesktopObserver {
+    Log heard;
+    void note(const std::string& news, const Form& form) { heard.push_back(news + " " + form.Caption()); }
+    void shown(Form& form) override { note("shown", form); }
+    void unloaded(Form& form) override { note("unloaded", form); }
+    void activated(Form& form) override { note("activated", form); }
+    void captionChanged(Form& form) override { note("caption", form); }
+  } listener;
+  Sample& a = open("A");
+  desktop.watch(listener);
+  Sample& b = open("B");
+  b.setCaption("C");
+  b.setCaption("C");
+  a.Show();
+  user.close(b);
+  desktop.unwatch(listener);
+  user.close(a);
+  EXPECT_EQ(listener.heard, (Log{"shown B", "activated B", "caption C", "shown A", "activated A", "unloaded C"}));
 }
 
 TEST_F(Forms, AClosedWindowTakesNoActs) {

@@ -81,6 +81,12 @@ TEST_F(Lists, SortingIsFrenchAndStableAndKeepsTheSelection) {
   form.rows.sort();
   EXPECT_EQ(shown(), (Log{"Eau/4", "Élan/2", "ère/5", "Tir/1", "Tir/3*"}));
   EXPECT_EQ(form.rows.SelectedItem()->Index(), 5);
+  form.rows.Clear();
+  std::string keys;
+  for (char key = 'z'; key >= 'a'; --key) add("même", std::string(1, key));
+  form.rows.sort();
+  for (const auto& row : form.rows.rows()) keys += row->SubItems(2);
+  EXPECT_EQ(keys, "zyxwvutsrqponmlkjihgfedcba") << "equal names keep their order";
   form.rows.ListItems(1)->setText("Zut");
   EXPECT_EQ(form.rows.ListItems(1)->Text(), "Zut") << "sorted once, not for ever";
 }
