@@ -15,6 +15,7 @@
 #include "tests/sheet/letter_pictures.h"
 #include "tests/support/fakes.h"
 #include "tests/support/logged_dialogs.h"
+#include "tests/support/memory_files.h"
 
 namespace orvane::test {
 
