@@ -7,8 +7,8 @@
 #include "shell/frmSplash.h"
 #include "shell/main_procedure.h"
 #include "surface/user.h"
+#include "tests/shell/shell_world.h"
 #include "tests/support/game_files.h"
-#include "tests/support/test_world.h"
 #include "tests/support/windows_1252.h"
 
 namespace orvane::test {
@@ -33,7 +33,7 @@ class FrameTest : public ::testing::Test {
   }
   std::size_t openForms() { return run.desktop().Forms().size(); }
 
-  TestWorld world;
+  ShellWorld world;
   orvane::Run run{world.world()};
   User user{run.desktop()};
 };

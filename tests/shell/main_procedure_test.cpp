@@ -4,8 +4,8 @@
 
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "tests/shell/shell_world.h"
 #include "tests/support/game_files.h"
-#include "tests/support/test_world.h"
 
 namespace orvane::test {
 namespace {
@@ -66,7 +66,7 @@ class StartTest : public ::testing::Test, protected Dialogs, Clock, Settings, Fi
   Log log;
   float now = 1000;
   float secondsForEachBox = 0;
-  NoPictures pictures;
+  BlankPictures pictures;
   orvane::Run run{World{*this, *this, *this, *this, pictures}};
 };
 
@@ -124,8 +124,8 @@ TEST_F(StartTest, ClosingSavesThePlacementLast) {
 }
 
 TEST(RunTest, RunsInOneProcessShareNothing) {
-  TestWorld one;
-  TestWorld other;
+  ShellWorld one;
+  ShellWorld other;
   one.files = gameFiles();
   orvane::Run first(one.world());
   orvane::Run second(other.world());
