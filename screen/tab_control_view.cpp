@@ -18,7 +18,7 @@ TabControlView::TabControlView(TabControl& tabs, QTabWidget& widget, FormView& f
   for (int i = 0; i < widget_.count() && i < tabs_.Tabs(); ++i)
     widget_.setTabText(i, withoutMnemonics(tabs_.TabCaption(i)));
   onEvent(*bar, [this](QEvent& event) { return barEvent(event); });
-  // With the mouse seen to above, only keys and screen readers change the current tab.
+  // With mouse and keys seen to above, only screen readers change the current tab.
   on(bar, &QTabBar::currentChanged, [this](int tab) { pick(tab); });
   for (const auto& [key, step] : {std::pair("Ctrl+PgUp", -1), std::pair("Ctrl+PgDown", 1)}) {
     auto* shortcut = new QShortcut(QKeySequence(key), widget_.parentWidget());
@@ -41,10 +41,27 @@ void TabControlView::show() {
 }
 
 bool TabControlView::barEvent(QEvent& event) {
-  if (event.type() == QEvent::Wheel) return true;
-  if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick) return false;
-  const auto& mouse = static_cast<QMouseEvent&>(event);
-  if (mouse.button() == Qt::LeftButton) pick(widget_.tabBar()->tabAt(mouse.position().toPoint()));
+  switch (event.type()) {
+    case QEvent::Wheel:
+      return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return pressed(static_cast<QMouseEvent&>(event));
+    case QEvent::KeyPress:
+      return keyPressed(static_cast<QKeyEvent&>(event));
+    default:
+      return false;
+  }
+}
+
+bool TabControlView::pressed(const QMouseEvent& event) {
+  if (event.button() == Qt::LeftButton) pick(widget_.tabBar()->tabAt(event.position().toPoint()));
+  return true;
+}
+
+bool TabControlView::keyPressed(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) return false;
+  pickBeside(event.key() == Qt::Key_Left ? -1 : 1);
   return true;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTabWidget>
 
 #include "screen/view.h"
@@ -17,6 +19,8 @@ class TabControlView final : public View {
  private:
   void show() override;
   bool barEvent(QEvent& event);
+  bool pressed(const QMouseEvent& event);
+  bool keyPressed(const QKeyEvent& event);
   void pick(int tab);
   // To the next tab on that side that is open.
   void pickBeside(int step);
