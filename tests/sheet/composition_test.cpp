@@ -147,7 +147,8 @@ TEST_F(Composition, PrintsALongDescriptionSmaller) {
 }
 
 TEST_F(Composition, PrintsEachMartialRowWithPointsAndItsTechnics) {
-  EXPECT_EQ(printedIn(visualise()->pctVerso, visualise()->shpMartialArt), "");
+  const frmFeuille& blank = *visualise();
+  EXPECT_EQ(printedIn(blank.pctVerso, blank.shpMartialArt), "");
   perso->lvwMartialArt.ListItems(1)->setSubItems(2, "3");
   perso->lvwMartialArt.ListItems(2)->setSubItems(2, "1");
   perso->colPersoArt(1)->colMartialTechnic(1)->bSelected = true;

@@ -168,6 +168,7 @@ class FailingSave : public Saving, public ::testing::WithParamInterface<std::tup
     const std::string copy = path.substr(0, path.size() - 4) + ".~o~";
     const bool told = lastBox().find("L'ancien fichier est gardé sous " + copy + ".") != std::string::npos;
     EXPECT_EQ(files.contents[told ? copy : path], bytes) << lastBox();
+    EXPECT_EQ(files.contents[path] != bytes, told) << lastBox();
   }
 };
 
