@@ -5,29 +5,13 @@
 
 #include "shell/frmMain.h"
 #include "shell/main_procedure.h"
-#include "surface/disk_files.h"
 #include "tests/random/invariants.h"
 #include "tests/random/random_user.h"
 #include "tests/support/fakes.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/game_files.h"
 
 namespace orvane::test {
 namespace {
-
-// The data of the game on the disk, everything written kept in memory.
-MemoryFiles gameFiles() {
-  static const MemoryFiles loaded = [] {
-    MemoryFiles files;
-    DiskFiles disk;
-    for (const char* name :
-         {"ethnie", "grade", "profil", "skill", "mutation", "martial_technic", "martial_art", "district"}) {
-      const std::string file = std::string(name) + ".txt";
-      files.contents["./" + file] = disk.read(std::string(ORVANE_SOURCE_DIR) + "/game/" + file);
-    }
-    return files;
-  }();
-  return loaded;
-}
 
 // Boxes are answered and dialogs filled in by the random user.
 class RandomDialogs : public Dialogs {
@@ -50,11 +34,11 @@ struct Played {
   int saves = 0;
 };
 
-Played play(unsigned seed, int acts) {
+Played play(const MemoryFiles& game, unsigned seed, int acts) {
   RandomDialogs dialogs;
   FakeClock clock;
   NoSettings settings;
-  MemoryFiles files = gameFiles();
+  MemoryFiles files = game;
   BlankPictures pictures;
   Run run(World{dialogs, clock, settings, files, pictures});
   run.Main();
@@ -88,10 +72,11 @@ TEST(RandomActs, BreakNoInvariantOnTheGame) {
   const char* wanted = std::getenv("ORVANE_RANDOM_SEEDS");
   const unsigned seeds = wanted ? static_cast<unsigned>(std::atoi(wanted)) : 30;
   constexpr int actsOfASeed = 3000;
+  const MemoryFiles game = gameFiles();
   Played all;
   const auto start = std::chrono::steady_clock::now();
   for (unsigned seed = 1; seed <= seeds && !HasFailure(); ++seed) {
-    const Played played = play(seed, actsOfASeed);
+    const Played played = play(game, seed, actsOfASeed);
     all.acts += played.acts;
     all.sheets += played.sheets;
     all.saves += played.saves;
