@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 
 #include "canvas/qt_pictures.h"
 #include "player/play_scripts.h"
@@ -12,7 +13,10 @@ int main(int argc, char** argv) {
   // Pictures need no screen.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   int names = 1;  // the toolkit gets the name of the program and none of its arguments
+  // What the toolkit misses in a session without a desktop is no message about a script.
+  QLoggingCategory::setFilterRules("default.warning=false");
   const QGuiApplication application(names, argv);
+  QLoggingCategory::setFilterRules({});
   orvane::DiskFiles files;
   orvane::QtPictures pictures;
   orvane::SystemClock timeOfDay;
