@@ -67,10 +67,11 @@ PropertyList ListView::properties() const {
 }
 
 ListItemRef ListView::rowOf(const Entry& row) const {
-  const auto* position = std::get_if<int>(&row);
-  const Entry entry = position ? Entry(*position - 1) : row;
-  const int index = entryPosition(*this, entry, Count(), [this](int i) { return ListItems(i + 1)->Text(); });
-  return ListItems(index + 1);
+  if (const auto* position = std::get_if<int>(&row)) {
+    if (*position >= 1 && *position <= Count()) return ListItems(*position);
+    throw Refusal{"Pas de ligne " + std::to_string(*position) + " dans " + id() + "."};
+  }
+  return ListItems(entryPosition(*this, row, Count(), [this](int i) { return ListItems(i + 1)->Text(); }) + 1);
 }
 
 void ListView::clickRow(const ListItemRef& row) {
