@@ -10,7 +10,10 @@ namespace orvane::test {
 // Fonts need an application, which has to go before main returns.
 class Gui : public testing::Environment {
  public:
-  void SetUp() override { application_ = std::make_unique<QGuiApplication>(count_, arguments_); }
+  void SetUp() override {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QGuiApplication>(count_, arguments_);
+  }
   void TearDown() override { application_.reset(); }
 
  private:

@@ -4,17 +4,12 @@
 #include <memory>
 #include <sstream>
 
-#include <QGuiApplication>
 #include <QImage>
 
-#include "canvas/qt_pictures.h"
 #include "data/reference_data.h"
-#include "player/play_scripts.h"
 #include "sheet/frmFeuille.h"
 #include "surface/desktop.h"
-#include "surface/disk_files.h"
-#include "tests/support/fakes.h"
-#include "tests/support/golden_scripts.h"
+#include "tests/player/played_script.h"
 #include "tests/support/logged_dialogs.h"
 #include "tests/support/memory_files.h"
 
@@ -78,22 +73,12 @@ void expectApproved(const fs::path& written, const fs::path& approved) {
 }
 
 TEST(Bitmaps, OfTheExamplesAreAsApproved) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  int count = 1;
-  char name[] = "player_tests";
-  char* arguments[] = {name, nullptr};
-  const QGuiApplication application(count, arguments);
   int bitmaps = 0;
   for (const auto& script : goldenScripts()) {
     if (script.script.parent_path().filename() != "examples") continue;
     const ScratchFolder folder(script);
-    DiskFiles files;
-    QtPictures pictures;
-    FakeClock midday;
-    std::istringstream in;
-    std::ostringstream out;
-    std::ostringstream err;
-    ASSERT_EQ(playScripts(goldenArguments(script), in, out, err, {files, pictures, midday}), 0) << err.str();
+    const GoldenOutput output = played(script);
+    ASSERT_EQ(output.status, 0) << output.errors;
     for (const auto& entry : fs::directory_iterator("Perso")) {
       ++bitmaps;
       expectApproved(entry.path(), fs::path(ORVANE_SOURCE_DIR) / "tests/bitmaps" / script.name /
