@@ -56,7 +56,7 @@ void arrangeIcons(const QSize& room, const WindowList& icons) {
 }  // namespace
 
 void arrange(QMdiArea& area, const std::vector<ChildWindow*>& windows, Arrangement arrangement) {
-  const QSize room = area.viewport()->size();
+  const QSize room = area.contentsRect().size();
   switch (arrangement) {
     case Arrangement::Cascade:
       return cascade(room, those(windows, false));

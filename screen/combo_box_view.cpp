@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
@@ -18,9 +19,11 @@ ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
   combo_.setFocusPolicy(Qt::StrongFocus);
   onEvent(combo_, [this](QEvent& event) { return wheelWithoutFocus(event); });
   on(&combo_, &QComboBox::activated, [this](int index) { act([&](User& user) { user.pick(box_, index); }); });
-  if (auto* edit = combo_.lineEdit())
+  if (auto* edit = combo_.lineEdit()) {
+    edit->setAccessibleName(QAccessible::queryAccessibleInterface(&combo_)->text(QAccessible::Name));
     on(edit, &QLineEdit::textEdited,
        [this](const QString& text) { act([&](User& user) { user.type(box_, fromQt(text)); }); });
+  }
 }
 
 // Who rolls the page with the pointer above a box does not mean to pick another entry.

@@ -101,7 +101,8 @@ void Windows::unloaded(Form& form) {
 void Windows::activated(Form& form) {
   const QScopedValueRollback following(following_, true);
   auto* window = childOf(form);
-  if (!window) return;
+  // When the active window is minimised Qt walks on to the next one, which may be an icon and stays one.
+  if (!window || window == main_->area().activeSubWindow()) return;
   if (window->isMinimized()) window->showNormal();
   main_->area().setActiveSubWindow(window);
 }

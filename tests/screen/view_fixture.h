@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
 

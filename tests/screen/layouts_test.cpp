@@ -1,0 +1,124 @@
+#include "screen/layouts.h"
+
+#include <set>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QDialog>
+#include <QRegularExpression>
+
+#include "editor/frmContact.h"
+#include "screen/qt_text.h"
+#include "sheet/frmFeuille.h"
+#include "shell/FrmReadMe.h"
+#include "shell/frmSplash.h"
+#include "tests/screen/desktop_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+// Each form in a window of its own, on the screen.
+class Layouts : public DesktopFixture {
+ protected:
+  Layouts() { start(); }
+  void forEach(const std::function<void(Form&, QWidget&)>& check) {
+    Form& character = newCharacter();
+    check(character, *windows.childOf(character)->widget());
+    for (const auto& form : std::initializer_list<std::shared_ptr<Form>>{
+             std::make_shared<frmFeuille>(run.globals()), std::make_shared<FrmReadMe>(run.desktop()),
+             std::make_shared<frmContact>(run.globals()), std::make_shared<frmSplash>(run.desktop())}) {
+      form->Show();
+      turn();
+      auto* child = windows.childOf(*form);
+      check(*form, child ? *child->widget() : *windows.dialogOf(*form));
+    }
+  }
+};
+
+// What a layout adds for its own sake: pages and boxes around controls, and the inner parts of Qt's widgets.
+bool belongsToLayout(const QWidget& widget) {
+  static const QRegularExpression own("^(tab_|box_|qt_|Scroll(Left|Right)Button$)");
+  return widget.objectName().isEmpty() || own.match(widget.objectName()).hasMatch();
+}
+
+std::set<QString> controlNames(const Form& form) {
+  std::set<QString> names{toQt(form.Name())};
+  for (auto* control : form.controls()) names.insert(widgetName(*control));
+  return names;
+}
+
+TEST_F(Layouts, GiveEachControlItsWidgetAndHoldNoOther) {
+  forEach([](Form& form, QWidget& window) {
+    const auto names = controlNames(form);
+    std::multiset<QString> shown;
+    for (auto* widget : window.findChildren<QWidget*>())
+      if (!belongsToLayout(*widget)) shown.insert(widget->objectName());
+    for (const auto& name : shown)
+      EXPECT_TRUE(names.contains(name)) << form.Name() << ": no control for the widget " << name.toStdString();
+    for (const auto& name : names) EXPECT_LE(shown.count(name), 1U) << name.toStdString();
+  });
+}
+
+TEST_F(Layouts, LackingAWidgetIsAnError) {
+  needApplication();
+  Form& character = newCharacter();
+  QWidget window;
+  layOut(character, window);
+  delete window.findChild<QWidget*>("txtAge");
+  EXPECT_THROW(FormView(character, window, windows.acts()), std::logic_error);
+  auto* wrong = new QWidget(&window);
+  wrong->setObjectName("txtAge");
+  EXPECT_THROW(FormView(character, window, windows.acts()), std::logic_error);
+}
+
+TEST_F(Layouts, ShowTheCaptionsOfTheControls) {
+  forEach([](Form& form, QWidget& window) {
+    for (auto* control : form.controls()) {
+      const auto* option = dynamic_cast<OptionButton*>(control);
+      if (!option || option->Caption().empty()) continue;
+      EXPECT_EQ(window.findChild<QAbstractButton*>(widgetName(*control))->text(), toQt(option->Caption()));
+    }
+  });
+}
+
+bool isNameless(QAccessibleInterface& object) {
+  const auto state = object.state();
+  return state.focusable && !state.invisible && object.text(QAccessible::Name).trimmed().isEmpty();
+}
+
+void walk(QAccessibleInterface* object, const std::string& path, std::vector<std::string>& nameless) {
+  if (!object || !object->isValid()) return;
+  const std::string here =
+      path + "/" + (object->object() ? object->object()->objectName().toStdString() : std::string("part"));
+  if (isNameless(*object)) nameless.push_back(here);
+  for (int i = 0; i < object->childCount(); ++i) walk(object->child(i), here, nameless);
+}
+
+TEST_F(Layouts, NameEveryControlToScreenReaders) {
+  forEach([](Form& form, QWidget& window) {
+    std::vector<std::string> nameless;
+    auto* tabs = dynamic_cast<TabControl*>(form.find("SSTabPerso", {}));
+    for (int tab = 0; tab < (tabs ? 6 : 1); ++tab) {
+      if (tabs) tabs->setTab(tab);
+      turn();
+      walk(QAccessible::queryAccessibleInterface(&window), form.Name(), nameless);
+    }
+    EXPECT_EQ(nameless, std::vector<std::string>());
+  });
+}
+
+TEST_F(Layouts, TellPoolsAndRowsInWords) {
+  auto& character = newCharacter();
+  for (const auto* pool : {"txtLangRest", "txtCaractRest", "txtContactRest", "txtSkillRest", "txtMartialArtRest"}) {
+    const auto* box = QAccessible::queryAccessibleInterface(&find<QWidget>(character, pool));
+    EXPECT_FALSE((box->text(QAccessible::Description) + box->text(QAccessible::Name)).isEmpty()) << pool;
+  }
+  auto* list = QAccessible::queryAccessibleInterface(&find<QWidget>(character, "lvwSkillGen"));
+  ASSERT_TRUE(list->tableInterface());
+  const auto first = toQt(character.lvwSkillGen.ListItems(1)->Text());
+  EXPECT_EQ(list->tableInterface()->cellAt(0, 0)->text(QAccessible::Name),
+            first + ", niveau " + toQt(character.lvwSkillGen.ListItems(1)->SubItems(1)));
+}
+
+}  // namespace
+}  // namespace orvane::test

@@ -1,0 +1,78 @@
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include "screen/measures.h"
+#include "sheet/frmFeuille.h"
+#include "tests/screen/desktop_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+class SheetWindows : public DesktopFixture {
+ protected:
+  SheetWindows() {
+    settings.values = {{"MainWidth", "18000"}, {"MainHeight", "10000"}};
+    start();
+    sheet->Show();
+    turn();
+  }
+  QWidget& picture(const char* name) { return find<QWidget>(*sheet, name); }
+
+  std::shared_ptr<frmFeuille> sheet = std::make_shared<frmFeuille>(run.globals());
+};
+
+TEST_F(SheetWindows, ShowsThePicturePixelForPixel) {
+  EXPECT_EQ(picture("pctRecto").geometry(), QRect(0, 38, 660, 1028));
+  sheet->pctRecto.setCurrentX(3000);
+  sheet->pctRecto.setCurrentY(3000);
+  for (auto* control : sheet->controls())
+    if (auto* shape = dynamic_cast<Shape*>(control)) shape->setBorderStyle(0);
+  sheet->pctRecto.Print("Anne Ravel");
+  turn();
+  QImage shown(picture("pctRecto").size(), QImage::Format_RGB32);
+  picture("pctRecto").render(&shown);
+  EXPECT_EQ(shown, image(sheet->pctRecto.Image()).convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(SheetWindows, TheWheelAndThePageKeysScroll) {
+  ASSERT_GT(sheet->VScroll.Max(), 2);
+  QWidget& pane = *windows.childOf(*sheet)->widget();
+  QWheelEvent wheel(QPointF(50, 100), pane.mapToGlobal(QPointF(50, 100)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&wheel);  // others do not reach the widgets around
+  qApp->notify(&picture("pctRecto"), &wheel);
+  turn();
+  EXPECT_EQ(sheet->VScroll.Value(), 2);
+  EXPECT_EQ(find<QScrollBar>(*sheet, "VScroll").value(), 2);
+  EXPECT_EQ(picture("pctRecto").y(), pixels(567.0F * (1 - 2)));
+  QTest::keyClick(&find<QRadioButton>(*sheet, "optFeuille_0"), Qt::Key_PageDown);
+  EXPECT_EQ(sheet->VScroll.Value(), std::min(12, sheet->VScroll.Max()));
+  QTest::keyClick(&find<QRadioButton>(*sheet, "optFeuille_0"), Qt::Key_PageUp);
+  QTest::keyClick(&find<QRadioButton>(*sheet, "optFeuille_0"), Qt::Key_PageUp);
+  EXPECT_EQ(sheet->VScroll.Value(), 0);
+}
+
+TEST_F(SheetWindows, TheOtherSideComesToTheFrontBelowTheStrip) {
+  QTest::mouseClick(&find<QRadioButton>(*sheet, "optFeuille_1"), Qt::LeftButton, {}, {8, 8});
+  turn();
+  EXPECT_FALSE(picture("pctRecto").isVisible());
+  EXPECT_TRUE(picture("pctVerso").isVisible());
+  EXPECT_FALSE(picture("cmdSave_1").isVisible());
+  QWidget& pane = *windows.childOf(*sheet)->widget();
+  sheet->VScroll.setValue(3);
+  turn();
+  EXPECT_EQ(pane.childAt(300, 100), &picture("pctVerso"));
+  EXPECT_NE(pane.childAt(300, 10), &picture("pctVerso"));
+  const QRect bar = find<QScrollBar>(*sheet, "VScroll").geometry();
+  EXPECT_EQ(pane.childAt(bar.center()), &find<QWidget>(*sheet, "VScroll"));
+}
+
+TEST_F(SheetWindows, OpensAsTallAsTheMainWindowAllows) {
+  const int room = windows.mainWindow()->area().viewport()->height();
+  EXPECT_LE(windows.childOf(*sheet)->height(), room);
+  EXPECT_GE(windows.childOf(*sheet)->height(), std::min(room - 2, 555));
+}
+
+}  // namespace
+}  // namespace orvane::test

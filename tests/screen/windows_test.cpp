@@ -1,0 +1,187 @@
+#include "screen/windows.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+
+#include "screen/measures.h"
+#include "shell/FrmReadMe.h"
+#include "tests/screen/desktop_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+class MainWindows : public DesktopFixture {
+ protected:
+  // The list of windows, an entry each, the active one with a star.
+  std::string windowList() {
+    auto* list = windows.mainWindow()->findChild<QMenu*>("mnuWindow");
+    emit list->aboutToShow();
+    std::string entries;
+    for (auto* action : list->actions())
+      if (action->isCheckable()) entries += action->text().toStdString() + (action->isChecked() ? "*\n" : "\n");
+    return entries;
+  }
+  QMdiSubWindow* activeChild() { return windows.mainWindow()->area().activeSubWindow(); }
+  void name(frmPersonnage& character, const std::string& name) {
+    windows.acts().perform([&](User& user) {
+      user.type(character.txtPerso, name);
+      user.focus(character.txtAge);
+    });
+    turn();
+  }
+};
+
+TEST_F(MainWindows, TheMenuIsThatOfTheFrame) {
+  start();
+  QString shown;
+  for (auto* top : windows.mainWindow()->menuBar()->actions()) {
+    shown += top->text() + ":";
+    for (auto* entry : top->menu()->actions()) shown += " " + (entry->isSeparator() ? "-" : entry->text());
+    shown += "\n";
+  }
+  EXPECT_EQ(shown.toStdString(),
+            "Action: New PJ - Exit\n"
+            "Window: Cascade Tile Horizontal Tile Vertical Arrange Icons\n"
+            "Help: Contents - About\n");
+}
+
+TEST_F(MainWindows, CtrlPAndF1OpenWindows) {
+  start();
+  QTest::keyClick(windows.mainWindow(), Qt::Key_P, Qt::ControlModifier);
+  QTest::keyClick(windows.mainWindow(), Qt::Key_P, Qt::ControlModifier);
+  QTest::keyClick(windows.mainWindow(), Qt::Key_F1);
+  QTest::keyClick(windows.mainWindow(), Qt::Key_F1);
+  turn();
+  EXPECT_EQ(windows.mainWindow()->area().subWindowList().size(), 3);
+  EXPECT_EQ(run.desktop().activeChild()->Name(), "FrmReadMe");
+  EXPECT_EQ(activeChild()->windowTitle(), "Help File");
+}
+
+TEST_F(MainWindows, TheListTicksTheActiveWindow) {
+  start();
+  name(newCharacter(), "Anne & Bo");
+  name(newCharacter(), "Cléo");
+  EXPECT_EQ(windowList(), "&1 Définition Anne && Bo\n&2 Définition Cléo*\n");
+  QTest::keyClick(windows.mainWindow(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(windowList(), "&1 Définition Anne && Bo*\n&2 Définition Cléo\n");
+  EXPECT_EQ(activeChild()->windowTitle(), "Définition Anne & Bo");
+  windowList();
+  windows.mainWindow()->findChild<QMenu*>("mnuWindow")->actions().last()->trigger();
+  turn();
+  EXPECT_EQ(activeChild()->windowTitle(), "Définition Cléo");
+}
+
+TEST_F(MainWindows, ActivationGoesBothWays) {
+  start();
+  auto& first = newCharacter();
+  auto& second = newCharacter();
+  EXPECT_EQ(activeChild(), windows.childOf(second));
+  windows.mainWindow()->area().setActiveSubWindow(windows.childOf(first));
+  EXPECT_EQ(run.desktop().activeChild(), &first);
+  EXPECT_EQ(run.globals().frmCurrentPerso, &first);
+  // A click into a window that is not the active one.
+  auto& edit = find<QLineEdit>(second, "txtAge");
+  QTest::mouseClick(&edit, Qt::LeftButton);
+  turn();
+  EXPECT_EQ(run.desktop().activeChild(), &second);
+  EXPECT_EQ(activeChild(), windows.childOf(second));
+}
+
+TEST_F(MainWindows, ChildrenCloseWithTheirFormsAndTheFormerOneIsActiveAgain) {
+  start();
+  auto& first = newCharacter();
+  newCharacter();
+  auto& third = newCharacter();
+  windows.mainWindow()->area().setActiveSubWindow(windows.childOf(first));
+  windows.mainWindow()->area().setActiveSubWindow(windows.childOf(third));
+  windows.childOf(third)->close();
+  settle();
+  EXPECT_EQ(run.desktop().activeChild(), &first);
+  EXPECT_EQ(activeChild(), windows.childOf(first));
+  QTest::mouseClick(&find<QPushButton>(first, "cmdClose"), Qt::LeftButton);
+  settle();
+  EXPECT_EQ(windows.mainWindow()->area().subWindowList().size(), 1);
+}
+
+TEST_F(MainWindows, EscapeClosesTheHelp) {
+  start();
+  menu("mnuHelpContents");
+  QTest::keyClick(windows.mainWindow(), Qt::Key_Escape);
+  settle();
+  EXPECT_EQ(windows.mainWindow()->area().subWindowList().size(), 0);
+}
+
+TEST_F(MainWindows, ThePlacementIsRememberedInTwips) {
+  settings.values = {{"MainLeft", "600"}, {"MainTop", "450"}, {"MainWidth", "9000"}, {"MainHeight", "7500"}};
+  start();
+  EXPECT_EQ(windows.mainWindow()->pos(), QPoint(40, 30));
+  EXPECT_EQ(windows.mainWindow()->size(), QSize(600, 500));
+  windows.mainWindow()->move(60, 50);
+  windows.mainWindow()->resize(640, 520);
+  turn();
+  bool closed = false;
+  windows.closed = [&] { closed = true; };
+  windows.mainWindow()->close();
+  settle();
+  EXPECT_TRUE(closed);
+  EXPECT_FALSE(run.mainWindow());
+  EXPECT_EQ(settings.values["MainLeft"] + " " + settings.values["MainTop"], "900 750");
+  EXPECT_EQ(settings.values["MainWidth"] + " " + settings.values["MainHeight"], "9600 7800");
+}
+
+TEST_F(MainWindows, APlaceWithoutAScreenIsGivenUp) {
+  settings.values = {{"MainLeft", "900000"}, {"MainTop", "-450000"}, {"MainWidth", "9000"}, {"MainHeight", "7500"}};
+  start();
+  EXPECT_TRUE(windows.mainWindow()->screen()->availableGeometry().contains(windows.mainWindow()->geometry().topLeft()));
+  EXPECT_EQ(windows.mainWindow()->size(), QSize(600, 500));
+}
+
+TEST_F(MainWindows, ClosingItClosesAllAndAsksNothing) {
+  start();
+  newCharacter();
+  menu("mnuHelpContents");
+  windows.mainWindow()->close();
+  settle();
+  EXPECT_TRUE(run.desktop().Forms().empty());
+}
+
+TEST_F(MainWindows, TilesHorizontallyAsRows) {
+  settings.values = {{"MainWidth", "18000"}, {"MainHeight", "12000"}};
+  start();
+  auto& first = newCharacter();
+  auto& second = newCharacter();
+  const QSize room = windows.mainWindow()->area().contentsRect().size();
+  menu("mnuWindowTileHorizontal");
+  EXPECT_EQ(windows.childOf(second)->pos(), QPoint(0, 0));
+  EXPECT_EQ(windows.childOf(first)->pos(), QPoint(0, room.height() / 2));
+  menu("mnuWindowTileVertical");
+  EXPECT_EQ(windows.childOf(first)->pos(), QPoint(room.width() / 2, 0));
+  menu("mnuWindowCascade");
+  EXPECT_EQ(windows.childOf(first)->pos(), QPoint(0, 0));
+  EXPECT_GT(windows.childOf(second)->y(), 0);
+  windows.childOf(first)->showMinimized();
+  windows.childOf(second)->showMinimized();
+  menu("mnuWindowArrangeIcons");
+  EXPECT_EQ(windows.childOf(first)->geometry().bottom() + 1, room.height());
+  EXPECT_EQ(windows.childOf(second)->y(), windows.childOf(first)->y());
+  EXPECT_NE(windows.childOf(second)->x(), windows.childOf(first)->x());
+}
+
+TEST_F(MainWindows, CharacterWindowsKeepTheirSize) {
+  start();
+  auto* child = windows.childOf(newCharacter());
+  const QSize before = child->widget()->size();
+  child->resize(child->size() + QSize(100, 100));
+  EXPECT_EQ(child->widget()->size(), before);
+  child->showMinimized();
+  EXPECT_LT(child->height(), 60);
+  child->showNormal();
+  EXPECT_EQ(child->widget()->size(), before);
+}
+
+}  // namespace
+}  // namespace orvane::test
