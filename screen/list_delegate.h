@@ -14,7 +14,7 @@ class ListDelegate final : public QStyledItemDelegate {
  public:
   using Typed = std::function<void(const QString&)>;
 
-  ListDelegate(QObject* parent, Typed typed) : QStyledItemDelegate(parent), typed_(std::move(typed)) {}
+  explicit ListDelegate(Typed typed) : typed_(std::move(typed)) {}
 
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 

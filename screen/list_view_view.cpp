@@ -9,7 +9,6 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include "screen/list_delegate.h"
 #include "screen/measures.h"
 #include "screen/qt_text.h"
 
@@ -27,8 +26,8 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   tree_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   tree_.header()->setStretchLastSection(false);
   tree_.header()->setMinimumSectionSize(0);
-  tree_.setItemDelegate(new ListDelegate(&tree_, [this](const QString& text) { endEdit(text); }));
-  on(tree_.itemDelegate(), &QAbstractItemDelegate::closeEditor, [this] { edited_.reset(); });
+  tree_.setItemDelegate(&delegate_);
+  on(&delegate_, &QAbstractItemDelegate::closeEditor, [this] { edited_.reset(); });
   secondClick_.setSingleShot(true);
   secondClick_.setInterval(QApplication::doubleClickInterval());
   on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "screen/list_delegate.h"
 #include "screen/view.h"
 #include "surface/listview.h"
 
@@ -36,6 +37,8 @@ class ListViewView final : public View {
   ListView& list_;
   QTreeWidget& tree_;
   ListItemRef edited_;
+  // Ends with the view: an editor that is still open hands its text to nobody.
+  ListDelegate delegate_{[this](const QString& text) { endEdit(text); }};
   QTimer secondClick_;
 };
 

@@ -49,7 +49,8 @@ TEST_F(Lifetimes, AnEditorOutlivesItsForm) {
   form->Unload();
   QTest::keyClicks(editor, "x");
   QTest::keyClick(editor, Qt::Key_Return);
-  EXPECT_EQ(form->lvwRows.Count(), 1);
+  turn();
+  EXPECT_EQ(form->lvwRows.ListItems(1)->Text(), "Tir");
 }
 
 TEST_F(Lifetimes, AFailureOfAHandlerIsToldAndGoesNoFurther) {
