@@ -1,6 +1,7 @@
 #include "data/record_line.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "data/excerpt.h"
@@ -20,6 +21,12 @@ constexpr std::string_view aKey = "une clé de -32768 à 32767";
 constexpr std::string_view aSeparator = "« ; » à la fin du champ";
 
 std::int16_t wholeNumber(std::string_view text) { return toInt16(strictNumber(text)); }
+
+double finitePrefix(std::string_view text) {
+  const double value = numericPrefix(text);
+  if (!std::isfinite(value)) throw Failure("Nombre trop grand.");
+  return value;
+}
 
 std::int16_t keyPrefix(std::string_view text) { return toInt16(numericPrefix(text)); }
 
@@ -44,7 +51,7 @@ std::int16_t RecordLine::integerToEnd(Field field) {
 
 bool RecordLine::boolean(Field field) { return converted(field, cut(field), aBoolean, truth); }
 
-double RecordLine::number(Field field) { return converted(field, cut(field), aNumber, numericPrefix); }
+double RecordLine::number(Field field) { return converted(field, cut(field), aNumber, finitePrefix); }
 
 std::int16_t RecordLine::key(Field field) { return converted(field, cut(field), aKey, keyPrefix); }
 

@@ -10,7 +10,6 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view captionPrefix = "Définition ";
 constexpr std::string_view swornProfileName = "Assermenté";
 constexpr std::int32_t offeredGrades = 2;
 
@@ -231,24 +230,16 @@ void frmPersonnage::enterMutation() {
 void frmPersonnage::Form_Activate() { globals_.frmCurrentPerso = this; }
 
 void frmPersonnage::unloaded() {
-  if (globals_.frmCurrentPerso != this) return;
-  globals_.frmCurrentPerso = nullptr;
-  for (Form* form : desktop().activationOrder())
-    if (auto* other = dynamic_cast<frmPersonnage*>(form)) globals_.frmCurrentPerso = other;
+  if (globals_.frmCurrentPerso == this) globals_.frmCurrentPerso = desktop().lastActivated<frmPersonnage>();
 }
 
 void frmPersonnage::txtPerso_LostFocus() {
-  const std::string caption = std::string(captionPrefix) + txtPerso.Text();
-  const bool taken = !txtPerso.Text().empty() && otherWindowHasCaption(caption);
+  const std::string caption = captionOf(txtPerso.Text());
+  // This window bears the caption itself when the name is the same as before.
+  const bool taken = !txtPerso.Text().empty() && Caption() != caption && desktop().find(Name(), caption);
   // Two windows of one name could not be told apart at the save: the later one has to look for another.
   if (taken) txtPerso.setText("");
   setCaption(taken ? std::string() : caption);
-}
-
-bool frmPersonnage::otherWindowHasCaption(const std::string& caption) const {
-  for (const auto& form : desktop().Forms())
-    if (form.get() != this && form->Name() == Name() && form->Caption() == caption) return true;
-  return false;
 }
 
 void frmPersonnage::cmdPrintPreview_Click() {

@@ -29,6 +29,9 @@ class frmPersonnage : public Form {
  public:
   explicit frmPersonnage(Globals& globals);
 
+  // The caption of the window of a character, by which a sheet finds it again.
+  static std::string captionOf(const std::string& name) { return "Définition " + name; }
+
   // The tabs, by position.
   enum TabPosition { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation };
 
@@ -180,7 +183,6 @@ class frmPersonnage : public Form {
   void enterArtsMartiaux();
   void enterMutation();
   void txtPerso_LostFocus();
-  bool otherWindowHasCaption(const std::string& caption) const;
   void cmdPrintPreview_Click();
   void cmdHelp_Click();
   void cmdClose_Click();

@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-// What fits an int with room to count on.
+// What fits an int with room to count on. No list, window or family is as large: what lies beyond is as little there.
 constexpr int largestNumber = 999'999'999;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -29,8 +29,12 @@ std::optional<Number> wholly(std::string_view text) {
 }
 
 std::optional<int> wholeNumber(std::string_view text) {
-  const auto number = wholly<int>(text);
-  return number && std::abs(*number) <= largestNumber ? number : std::nullopt;
+  int number = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (text.empty() || result.ptr != text.data() + text.size() || result.ec == std::errc::invalid_argument)
+    return std::nullopt;
+  if (result.ec == std::errc::result_out_of_range) number = text.front() == '-' ? -largestNumber : largestNumber;
+  return std::clamp(number, -largestNumber, largestNumber);
 }
 
 // "inf" and "nan" are names, not numbers.

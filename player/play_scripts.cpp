@@ -1,5 +1,6 @@
 #include "player/play_scripts.h"
 
+#include <array>
 #include <iterator>
 
 #include "player/script_parser.h"
@@ -33,8 +34,16 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
   return line;
 }
 
+std::string readAll(std::istream& in) {
+  std::string text;
+  for (std::array<char, 4096> part{}; in; text.append(part.data(), static_cast<std::size_t>(in.gcount())))
+    in.read(part.data(), part.size());
+  if (in.bad()) throw ScriptError{std::string(standardInput) + ": Lecture impossible."};
+  return text;
+}
+
 std::string readScript(const std::string& file, std::istream& in, Files& files) {
-  if (file == standardInput) return {std::istreambuf_iterator<char>(in), {}};
+  if (file == standardInput) return readAll(in);
   try {
     return files.read(file);
   } catch (const Failure& failure) {

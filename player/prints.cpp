@@ -86,7 +86,7 @@ void printPrinted(Transcript& transcript, const Control& control) {
 
 void printLost(Transcript& transcript, const Form& form) {
   const PrintLog* log = printLog(form);
-  if (!log) throw Refusal{"La fenêtre « " + form.Caption() + " » n'est pas une feuille."};
+  if (!log) throw Refusal{"La fenêtre « " + form.title() + " » n'est pas une feuille."};
   for (const auto& [shape, words] : log->lost) transcript.line("lost " + shape + " " + quoted(words));
 }
 

@@ -20,13 +20,12 @@ Control* Stage::menuEntry(const ControlName& name) const {
 Control& Stage::control(const ControlName& name) const {
   if (Control* entry = menuEntry(name)) {
     if (const Form* dialog = desktop_.modal())
-      throw Refusal{name.text() + " : la fenêtre « " + dialog->Caption() + " » attend d'abord une réponse."};
+      throw Refusal{name.text() + " : la fenêtre « " + dialog->title() + " » attend d'abord une réponse."};
     return *entry;
   }
   Form& form = activeForm();
   if (Control* found = form.find(name.name, name.index)) return *found;
-  throw Refusal{"Pas de contrôle " + name.text() + " dans la fenêtre « " + form.Caption() + " » (" + form.Name() +
-                ")."};
+  throw Refusal{"Pas de contrôle " + name.text() + " dans la fenêtre « " + form.title() + " »."};
 }
 
 Form& Stage::window(const Entry& which) const {

@@ -28,7 +28,7 @@ void Transcript::line(const std::string& text) { out_ << text << '\n' << std::fl
 
 void Transcript::fault(const char* kind, const std::string& text) {
   ++faults_;
-  line(std::string(kind) + " " + file_ + ":" + std::to_string(line_) + ": " + onOneLine(text));
+  line(std::string(kind) + " " + onOneLine(file_) + ":" + std::to_string(line_) + ": " + onOneLine(text));
 }
 
 void Transcript::refused(const std::string& reason) {

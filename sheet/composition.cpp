@@ -11,8 +11,7 @@ namespace {
 constexpr const char* sheetFontName = "Times New Roman";
 
 void unloadSheetOf(Desktop& desktop, const std::string& sCharName) {
-  for (const auto& form : desktop.Forms())
-    if (form->Name() == "frmFeuille" && form->Caption() == sCharName) return form->Unload();
+  if (Form* sheet = desktop.find("frmFeuille", sCharName)) sheet->Unload();
 }
 
 std::shared_ptr<frmFeuille> openSheet(Globals& globals, const std::string& sCharName) {

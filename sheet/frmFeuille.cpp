@@ -43,10 +43,7 @@ void frmFeuille::Form_Load() {
 void frmFeuille::Form_Activate() { globals_.frmCurrentFeuille = this; }
 
 void frmFeuille::unloaded() {
-  if (globals_.frmCurrentFeuille != this) return;
-  globals_.frmCurrentFeuille = nullptr;
-  for (Form* form : desktop().activationOrder())
-    if (auto* other = dynamic_cast<frmFeuille*>(form)) globals_.frmCurrentFeuille = other;
+  if (globals_.frmCurrentFeuille == this) globals_.frmCurrentFeuille = desktop().lastActivated<frmFeuille>();
 }
 
 void frmFeuille::optFeuille_Click(std::int16_t Index) {
@@ -62,9 +59,10 @@ void frmFeuille::optFeuille_Click(std::int16_t Index) {
   VScroll.setValue(0);
   VScroll.setVisible(pctMesure.Height() < shown.Height());
   HScroll.setVisible(pctMesure.Width() < shown.Width());
-  for (PlacedControl* control : {static_cast<PlacedControl*>(&shown), static_cast<PlacedControl*>(&VScroll),
-                                 static_cast<PlacedControl*>(&HScroll), static_cast<PlacedControl*>(&pctController)})
-    control->ZOrder();
+  shown.ZOrder();
+  VScroll.ZOrder();
+  HScroll.ZOrder();
+  pctController.ZOrder();
 }
 
 PictureBox& frmFeuille::shownPicture() { return optFeuille(0).Value() ? pctRecto : pctVerso; }

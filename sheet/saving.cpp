@@ -11,13 +11,11 @@ namespace orvane {
 namespace {
 
 frmPersonnage* characterOf(const frmFeuille& sheet) {
-  for (const auto& form : sheet.desktop().Forms())
-    if (form->Name() == "frmPersonnage" && form->Caption() == "Définition " + sheet.Caption())
-      return dynamic_cast<frmPersonnage*>(form.get());
-  return nullptr;
+  return dynamic_cast<frmPersonnage*>(sheet.desktop().find("frmPersonnage", frmPersonnage::captionOf(sheet.Caption())));
 }
 
-// The number of a power and the blank behind it stand in front of its name.
+// The first blank stands in front of the name of a power only behind a number of three digits; it fills up a shorter
+// one.
 std::string behindFirstBlank(const std::string& text) {
   const auto blank = text.find(' ');
   return blank == std::string::npos ? text : text.substr(blank + 1);

@@ -1,6 +1,8 @@
 #include "sheet/sheet_files.h"
 
+#include <exception>
 #include <functional>
+#include <utility>
 
 #include "surface/failure.h"
 
@@ -30,7 +32,7 @@ bool succeeds(const std::function<void()>& step) {
   try {
     step();
     return true;
-  } catch (const Failure&) {
+  } catch (const std::exception&) {
     return false;
   }
 }
@@ -48,7 +50,7 @@ SheetFiles::SheetFiles(Files& files, const std::string& name) : files_(files) {
   const std::string stem = std::string(folder) + '/' + name;
   for (std::size_t i = 0; i < sides_.size(); ++i) {
     const std::string side = stem + '_' + std::to_string(i + 1);
-    sides_[i] = {side + ".bmp", side + ".~n~", side + ".~o~"};
+    sides_[i] = {side + ".bmp", side + ".~n~", {}};
   }
 }
 
@@ -62,7 +64,7 @@ void SheetFiles::save(const std::string& front, const std::string& back) {
     writeBeside(sides_[1], back);
     for (auto& side : sides_) keepFormer(side);
     for (auto& side : sides_) putInPlace(side);
-  } catch (const Failure& failure) {
+  } catch (const std::exception& failure) {
     const std::string remains = undo();
     removeTraces();
     throw Failure(failure.what() + remains);
@@ -75,8 +77,19 @@ void SheetFiles::writeBeside(const Side& side, const std::string& bytes) {
   if (files_.read(side.fresh) != bytes) throw Failure("Le fichier " + side.fresh + " se relit autrement qu'écrit.");
 }
 
+// A copy that a failed save had to leave behind may be all that is left of an old sheet: it is never overwritten.
+std::string SheetFiles::freeNameBeside(const std::string& goal) const {
+  const std::string stem = goal.substr(0, goal.size() - 4);
+  for (const char mark : {'o', '1', '2', '3', '4', '5', '6', '7', '8', '9'}) {
+    const std::string name = stem + ".~" + mark + '~';
+    if (!files_.fileExists(name)) return name;
+  }
+  throw Failure("Trop d'anciennes copies gardées à côté de " + goal + ".");
+}
+
 void SheetFiles::keepFormer(Side& side) {
   if (!files_.fileExists(side.goal)) return;
+  side.former = freeNameBeside(side.goal);
   files_.write(side.former, files_.read(side.goal));
   side.hadFormer = true;
 }
@@ -89,19 +102,20 @@ void SheetFiles::putInPlace(Side& side) {
 std::string SheetFiles::undo() {
   std::string remains;
   for (auto& side : sides_) {
-    if (putBack(side)) continue;
-    remains += " L'ancien fichier est gardé sous " + side.former + ".";
-    side.former.clear();
+    remains += putBack(side);
   }
   return remains;
 }
 
-bool SheetFiles::putBack(Side& side) {
+std::string SheetFiles::putBack(Side& side) {
   const bool untouched = !side.attempted || files_.fileExists(side.fresh);
-  if (untouched) return true;
-  if (side.hadFormer) return succeeds([&] { files_.replace(side.former, side.goal); });
-  if (files_.fileExists(side.goal)) succeeds([&] { files_.Kill(side.goal); });
-  return true;
+  if (untouched) return {};
+  if (side.hadFormer) {
+    if (succeeds([&] { files_.replace(side.former, side.goal); })) return {};
+    return " L'ancien fichier est gardé sous " + std::exchange(side.former, {}) + ".";
+  }
+  if (!files_.fileExists(side.goal) || succeeds([&] { files_.Kill(side.goal); })) return {};
+  return " Le nouveau fichier " + side.goal + " n'a pas pu être retiré.";
 }
 
 void SheetFiles::removeTraces() {

@@ -25,17 +25,18 @@ class SheetFiles {
   struct Side {
     std::string goal;
     std::string fresh;   // written beside the goal
-    std::string former;  // a copy of what the goal held
+    std::string former;  // a copy of what the goal held, once it is being made
     bool hadFormer = false;
     bool attempted = false;  // its replacement, whether it succeeded or not
   };
 
   void writeBeside(const Side& side, const std::string& bytes);
+  std::string freeNameBeside(const std::string& goal) const;
   void keepFormer(Side& side);
   void putInPlace(Side& side);
-  // Gives a sentence for each former file that could not be put back; its copy stays where the sentence says.
+  // Gives a sentence for each side that could not be put back as it was: what stays, and where.
   std::string undo();
-  bool putBack(Side& side);
+  std::string putBack(Side& side);
   void removeTraces();
 
   Files& files_;

@@ -43,6 +43,12 @@ void Desktop::Arrange(Arrangement arrangement) {
   tell([&](DesktopObserver& observer) { observer.arrange(arrangement); });
 }
 
+Form* Desktop::find(std::string_view name, std::string_view caption) const {
+  for (const auto& form : forms_)
+    if (form->Name() == name && form->Caption() == caption) return form.get();
+  return nullptr;
+}
+
 void Desktop::load(Form& form) {
   if (form.state_ != Form::State::Fresh) return;
   Scope scope(*this);

@@ -50,12 +50,22 @@ class Desktop {
 
   // The loaded forms, in the order in which they were loaded.
   const std::vector<std::shared_ptr<Form>>& Forms() const { return forms_; }
+  // The first loaded form with this name and this caption, null for none.
+  Form* find(std::string_view name, std::string_view caption) const;
   // The child that was activated last and is still open.
   Form* activeChild() const { return activation_.empty() ? nullptr : activation_.back(); }
   // The open children, the one activated last at the end.
   const std::vector<Form*>& activationOrder() const { return activation_; }
   // The innermost form that is shown modally.
   Form* modal() const { return modals_.empty() ? nullptr : modals_.back(); }
+
+  // The child of a class that was activated last, null for none.
+  template <class F>
+  F* lastActivated() const {
+    for (auto form = activation_.rbegin(); form != activation_.rend(); ++form)
+      if (auto* found = dynamic_cast<F*>(*form)) return found;
+    return nullptr;
+  }
 
   void load(Form& form);
   void show(Form& form);

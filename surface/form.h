@@ -39,6 +39,8 @@ class Form : public std::enable_shared_from_this<Form> {
   Role role() const { return design_.role; }
   const std::string& Caption() const { return design_.caption; }
   void setCaption(std::string caption);
+  // For messages: the caption, or the name of a form without one.
+  const std::string& title() const { return design_.caption.empty() ? design_.name : design_.caption; }
 
   // 1 twips, 7 centimetres. The measures of the controls that stand on the form itself count in it.
   int ScaleMode() const { return scaleMode_; }

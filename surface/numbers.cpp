@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "surface/failure.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
@@ -82,14 +83,8 @@ double parsed(std::string_view number) {
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range && magnitude(number) > 0)
-    throw Failure("Nombre trop grand : " + std::string(number.substr(0, 40)) + ".");
+    return number.front() == '-' ? -HUGE_VAL : HUGE_VAL;
   return value;
-}
-
-std::string_view withoutEndBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 }  // namespace
@@ -100,7 +95,8 @@ double numericPrefix(std::string_view text) {
 }
 
 double strictNumber(std::string_view text) {
-  std::string_view number = withoutEndBlanks(text);
+  const std::string content = trimmed(text);
+  std::string_view number = content;
   const bool plus = !number.empty() && number.front() == '+';
   if (plus) number.remove_prefix(1);
   double value = 0;
@@ -114,11 +110,12 @@ double strictNumber(std::string_view text) {
 std::int16_t toInt16(double value) {
   const double whole = std::nearbyint(value);
   if (!(whole >= std::numeric_limits<std::int16_t>::min() && whole <= std::numeric_limits<std::int16_t>::max()))
-    throw Failure("Le nombre " + numberText(value) + " sort des limites -32768 à 32767.");
+    throw Failure("Un nombre sort des limites -32768 à 32767.");
   return static_cast<std::int16_t>(whole);
 }
 
 std::string numberText(double value) {
+  if (!std::isfinite(value)) throw Failure("Un nombre est trop grand pour être écrit.");
   double whole = std::nearbyint(value);
   if (whole == 0) whole = 0;  // no "-0"
   std::string text(400, '\0');

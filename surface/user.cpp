@@ -5,9 +5,9 @@
 namespace orvane {
 
 void User::requireOpen(const Form& form) const {
-  if (!form.isLoaded() || !form.isVisible()) throw Refusal{"La fenêtre « " + form.Caption() + " » n'est pas ouverte."};
+  if (!form.isLoaded() || !form.isVisible()) throw Refusal{"La fenêtre « " + form.title() + " » n'est pas ouverte."};
   if (desktop_.modal() && desktop_.modal() != &form)
-    throw Refusal{"La fenêtre « " + desktop_.modal()->Caption() + " » attend d'abord une réponse."};
+    throw Refusal{"La fenêtre « " + desktop_.modal()->title() + " » attend d'abord une réponse."};
 }
 
 void User::requireReachable(const Control& control) const {
@@ -77,7 +77,7 @@ void User::focus(Control& control) {
 
 void User::activate(Form& form) {
   requireOpen(form);
-  if (form.role() != Form::Role::Child) throw Refusal{"La fenêtre « " + form.Caption() + " » ne s'active pas."};
+  if (form.role() != Form::Role::Child) throw Refusal{"La fenêtre « " + form.title() + " » ne s'active pas."};
   desktop_.perform([&] { desktop_.activate(form); });
 }
 

@@ -9,6 +9,8 @@
 #include "surface/system_clock.h"
 
 int main(int argc, char** argv) {
+  // Only the streams' own buffers tell a reader that standard input has failed.
+  std::ios::sync_with_stdio(false);
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   // Pictures need no screen.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -107,7 +107,7 @@ TEST_F(ActsTest, AModalDialogTakesTheNextActsAndItsHandlerGoesOn) {
                    "list lstContact\n"
                    "get lstContact.ListCount\n"),
             "refused -:4: mnuFileNewPJ : la fenêtre « Nouveau contact » attend d'abord une réponse.\n"
-            "refused -:5: Pas de contrôle cmdContactNew dans la fenêtre « Nouveau contact » (frmContact).\n"
+            "refused -:5: Pas de contrôle cmdContactNew dans la fenêtre « Nouveau contact ».\n"
             "refused -:6: La fenêtre « Nouveau contact » attend d'abord une réponse.\n"
             "window 0 frmMain \"Orvane\"\nwindow 1 frmPersonnage \"\"\nwindow 2 frmContact \"Nouveau contact\" active\n"
             "lstContact[0] \"Mme Dru\"\n"
@@ -123,7 +123,7 @@ TEST_F(ActsTest, TheEndOfAScriptClosesItsDialog) {
 
 TEST_F(ActsTest, ARefusalInADialogEndsTheRunAndClosesIt) {
   EXPECT_EQ(play("click mnuHelpAbout\nclick nothing\nwindows\n"), 1);
-  EXPECT_EQ(transcript(), "refused -:2: Pas de contrôle nothing dans la fenêtre «  » (frmSplash).\n");
+  EXPECT_EQ(transcript(), "refused -:2: Pas de contrôle nothing dans la fenêtre « frmSplash ».\n");
 }
 
 TEST_F(ActsTest, AnExpectationThatFailsDoesNotEndTheRun) {

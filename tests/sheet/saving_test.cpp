@@ -148,6 +148,20 @@ TEST_F(Saving, WhatReadsBackOtherwiseIsNotPutInPlace) {
   EXPECT_TRUE(bothOpen(*sheet));
 }
 
+// What a failed save left behind may be all that is left of an old sheet: no later save touches it.
+TEST_F(Saving, ACopyKeptByAFailedSaveOutlivesTheNextOnes) {
+  const auto sheet = sheetOf();
+  const std::string kept = "./Perso/Luc_1.~o~";
+  files.contents = {{front, "newer front"}, {kept, "precious"}};
+  files.failAt(1, FaultyFiles::Fault::Before);
+  save(sheet, {Answer::OK, Answer::Yes});
+  EXPECT_EQ(files.contents, (Contents{{front, "newer front"}, {kept, "precious"}}));
+  save(sheet, {Answer::OK, Answer::Yes});
+  EXPECT_TRUE(sheet->wasUnloaded());
+  EXPECT_EQ(files.contents[kept], "precious");
+  EXPECT_EQ(files.contents.size(), 3U);
+}
+
 // Fails each access of a save in turn until a save meets no failure.
 class FailingSave : public Saving, public ::testing::WithParamInterface<std::tuple<Contents, FaultyFiles::Fault>> {
  protected:
