@@ -19,12 +19,13 @@ QString describedWith(QWidget& box, const QString& mark) {
 }  // namespace
 
 void showBoxColour(QWidget& box, Colour backColor) {
-  const QPalette wanted =
-      backColor == Colour::WindowBackground ? QPalette() : boxPalette(backColor, QApplication::palette(&box));
-  if (box.property("orvaneBackColor") != static_cast<uint>(backColor) || backColor != Colour::WindowBackground) {
-    box.setPalette(wanted);
+  const QVariant shown = box.property("orvaneBackColor");
+  if (backColor != Colour::WindowBackground)
+    box.setPalette(boxPalette(backColor, QApplication::palette(&box)));
+  else if (shown.isValid() && shown.toUInt() != static_cast<uint>(backColor))
+    box.setPalette(QPalette());
+  if (shown.isValid() || backColor != Colour::WindowBackground)
     box.setProperty("orvaneBackColor", static_cast<uint>(backColor));
-  }
   const QString description = describedWith(box, markInWords(backColor));
   if (box.accessibleDescription() != description) box.setAccessibleDescription(description);
 }

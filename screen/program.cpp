@@ -4,6 +4,7 @@
 
 #include "canvas/qt_pictures.h"
 #include "screen/qt_settings.h"
+#include "screen/readable_style.h"
 #include "screen/screen_dialogs.h"
 #include "screen/windows.h"
 #include "shell/main_procedure.h"
@@ -12,7 +13,10 @@
 
 namespace orvane {
 
+void dressUp() { QApplication::setStyle(new ReadableStyle); }
+
 int runProgram() {
+  dressUp();
   QApplication::setQuitOnLastWindowClosed(false);
   ScreenDialogs dialogs;
   SystemClock clock;

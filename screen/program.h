@@ -2,6 +2,9 @@
 
 namespace orvane {
 
+// The style of all windows. Needs a QApplication.
+void dressUp();
+
 // The whole program on the screen, in the current directory. Needs a QApplication; gives its exit status.
 int runProgram();
 
