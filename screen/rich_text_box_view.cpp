@@ -5,10 +5,17 @@
 #include "surface/failure.h"
 
 namespace orvane {
+namespace {
+
+// Around the text, pixels.
+constexpr int margin = 12;
+
+}  // namespace
 
 RichTextBoxView::RichTextBoxView(RichTextBox& box, QTextBrowser& browser, FormView& form)
     : View(box, browser, form), box_(box), browser_(browser) {
   browser_.setOpenLinks(false);
+  browser_.document()->setDocumentMargin(margin);
 }
 
 void RichTextBoxView::show() {
@@ -16,6 +23,7 @@ void RichTextBoxView::show() {
   if (box_.TextRTF().empty()) return browser_.setPlainText(shownLines(box_.Text()));
   try {
     showRichText(readRichText(box_.TextRTF()), browser_.palette(), *browser_.document());
+    browser_.moveCursor(QTextCursor::Start);
   } catch (const Failure& failure) {
     browser_.setPlainText(toQt(failure.what()));
   }

@@ -1,31 +1,19 @@
 #include "screen/rich_text_view.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <variant>
 
 #include <QTextCursor>
 #include <QTextTable>
 
+#include "screen/readable_colours.h"
+
 namespace orvane {
 namespace {
 
 constexpr double twipsAPixel = 15;
 constexpr std::int32_t usualHang = 360;
-constexpr double leastContrast = 3;
-
-double luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-  return (lighter + 0.05) / (darker + 0.05);
-}
 
 QColor turnedOver(const QColor& colour) {
   return QColor::fromHslF(std::max(0.0F, colour.hslHueF()), colour.hslSaturationF(), 1 - colour.lightnessF()).toRgb();
@@ -133,7 +121,7 @@ std::optional<QColor> readableColour(const RichColour& colour, const QColor& bac
   if (colour == RichColour{}) return {};
   const QColor given(colour.red, colour.green, colour.blue);
   for (const QColor& candidate : {given, turnedOver(given)})
-    if (contrast(candidate, background) >= leastContrast) return candidate;
+    if (contrast(candidate, background) >= readableContrast) return candidate;
   return {};
 }
 
