@@ -52,7 +52,8 @@ void ChildWindow::answerEscape() {
           [this, cancel] { acts_.perform([cancel](User& user) { user.click(*cancel); }); });
 }
 
-void ChildWindow::openIn(const QSize& room) {
+void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
+  move(corner);
   const QSize design = pane_->size().expandedTo(pane_->sizeHint());
   pane_->setFixedSize(design);
   adjustSize();
@@ -60,7 +61,7 @@ void ChildWindow::openIn(const QSize& room) {
   if (!resizable_) return;
   pane_->setMinimumSize(0, 0);
   pane_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  const int height = std::min(heightOfContents(form()), room.height() - frame.height());
+  const int height = std::min(heightOfContents(form()), room.height() - corner.y() - frame.height());
   resize(QSize(design.width(), std::max(design.height(), height)) + frame);
 }
 

@@ -17,8 +17,8 @@ class ChildWindow final : public QMdiSubWindow {
   FormView& view() const { return *view_; }
   // True for the windows whose size the user may change.
   bool isResizable() const { return resizable_; }
-  // As much of the contents as the room allows.
-  void openIn(const QSize& room);
+  // At that corner of the room, with as much of the contents as there is room for.
+  void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
   // The form has ended; the window goes away at the next turn of the event loop.
   void end();

@@ -53,8 +53,7 @@ void Windows::showChild(Form& form) {
   if (!window) {
     window = new ChildWindow(form, acts_);
     main_->area().addSubWindow(window, window->windowFlags());
-    window->openIn(main_->area().viewport()->size());
-    window->move(freeCorner());
+    window->openAt(freeCorner(), main_->area().viewport()->size());
     children_.push_back(window);
   }
   if (window->isMinimized()) window->showNormal();
