@@ -1,0 +1,30 @@
+#include <cstdio>
+#include <exception>
+
+#include <QApplication>
+
+#include "screen/program.h"
+#include "screen/screenshots/themes.h"
+#include "screen/screenshots/tour.h"
+
+// orvane-screenshots FOLDER SCRIPT, in the folder of the data files. QT_SCALE_FACTOR is heeded.
+int main(int argc, char* argv[]) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  orvane::dressUp();
+  if (argc != 3) {
+    std::fputs("usage: orvane-screenshots FOLDER SCRIPT\n", stderr);
+    return 2;
+  }
+  try {
+    for (const auto& theme : orvane::themes()) {
+      QApplication::setPalette(theme.palette);
+      orvane::takeTour(argv[2], orvane::Album(argv[1], theme.name));
+    }
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+  return 0;
+}
