@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+#include "screen/program.h"
+
 namespace orvane::test {
 namespace {
 
@@ -28,6 +30,7 @@ void needApplication() {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ApplicationEnvironment::application = std::make_unique<QApplication>(count, arguments);
   QApplication::setQuitOnLastWindowClosed(false);
+  dressUp();
 }
 
 }  // namespace orvane::test
