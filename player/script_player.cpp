@@ -9,8 +9,9 @@ ScriptPlayer::ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing)
     : transcript_(out),
       dialogs_(transcript_),
       clock_(parts.timeOfDay),
-      run_({dialogs_, clock_, settings_, parts.files, parts.pictures}),
-      stage_(run_.desktop(), transcript_, dialogs_, clock_),
+      run_({parts.door ? parts.door->dialogs(dialogs_) : dialogs_, clock_, settings_, parts.files, parts.pictures}),
+      user_(parts.door ? parts.door->user(run_) : std::make_unique<User>(run_.desktop())),
+      stage_(run_.desktop(), *user_, transcript_, dialogs_, clock_),
       keepGoing_(keepGoing) {
   dialogs_.playModal = [this](Form& form) { playModal(form); };
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <ostream>
 #include <vector>
 
@@ -13,11 +14,22 @@
 
 namespace orvane {
 
+// Another way to the forms than the direct one: tests play scripts through the widgets of the screen.
+class Door {
+ public:
+  virtual ~Door() = default;
+  // What shows the dialogs and boxes that the player's own are told of and answer.
+  virtual Dialogs& dialogs(PlayerDialogs& player) = 0;
+  // Who does the acts; ends before the run. Called once, before its start.
+  virtual std::unique_ptr<User> user(Run& run) = 0;
+};
+
 // The parts of the outside world that the player does not bring itself.
 struct PlayerParts {
   Files& files;
   Pictures& pictures;
   Clock& timeOfDay;
+  Door* door = nullptr;
 };
 
 // One run of the system that scripts are played in, one after another.
@@ -42,6 +54,7 @@ class ScriptPlayer {
   PlayerClock clock_;
   NoSettings settings_;
   Run run_;
+  std::unique_ptr<User> user_;
   Stage stage_;
   bool keepGoing_;
   const Script* script_ = nullptr;

@@ -12,8 +12,8 @@ class PlayerDialogs;
 // What acts find in a run: its windows, and the controls by their names.
 class Stage {
  public:
-  Stage(Desktop& desktop, Transcript& transcript, PlayerDialogs& dialogs, PlayerClock& clock)
-      : desktop_(desktop), user_(desktop), transcript_(transcript), dialogs_(dialogs), clock_(clock) {}
+  Stage(Desktop& desktop, User& user, Transcript& transcript, PlayerDialogs& dialogs, PlayerClock& clock)
+      : desktop_(desktop), user_(user), transcript_(transcript), dialogs_(dialogs), clock_(clock) {}
 
   Desktop& desktop() { return desktop_; }
   User& user() { return user_; }
@@ -32,7 +32,7 @@ class Stage {
   Control* menuEntry(const ControlName& name) const;
 
   Desktop& desktop_;
-  User user_;
+  User& user_;
   Transcript& transcript_;
   PlayerDialogs& dialogs_;
   PlayerClock& clock_;

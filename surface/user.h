@@ -8,27 +8,34 @@ namespace orvane {
 
 // What a user does, the same for a script and a screen. Each act first checks that a user could do it, else throws a
 // Refusal and has changed nothing; then moves the focus to its control (LostFocus, GotFocus), then acts.
+// Tests replace it by a user with a mouse and a keyboard.
 class User {
  public:
   explicit User(Desktop& desktop) : desktop_(desktop) {}
+  virtual ~User() = default;
+  User(const User&) = delete;
+  User& operator=(const User&) = delete;
 
-  void click(Control& control);
-  void type(Control& control, std::string text);
-  void pick(Control& control, const Entry& entry);
-  void row(Control& control, const Entry& row);
-  void toggle(Control& control, const Entry& row);
-  void edit(Control& control, const Entry& row, std::string text);
-  void scroll(Control& control, int value);
-  void focus(Control& control);
+  virtual void click(Control& control);
+  virtual void type(Control& control, std::string text);
+  virtual void pick(Control& control, const Entry& entry);
+  virtual void row(Control& control, const Entry& row);
+  virtual void toggle(Control& control, const Entry& row);
+  virtual void edit(Control& control, const Entry& row, std::string text);
+  virtual void scroll(Control& control, int value);
+  virtual void focus(Control& control);
 
   // Makes a child window the active one.
-  void activate(Form& form);
+  virtual void activate(Form& form);
   // Uses the close box.
-  void close(Form& form);
+  virtual void close(Form& form);
 
- private:
+ protected:
+  // Both throw a Refusal.
   void requireOpen(const Form& form) const;
   void requireReachable(const Control& control) const;
+
+ private:
   void act(Control& control, const PreparedAct& prepared);
   void moveFocus(Control& control);
 
