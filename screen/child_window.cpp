@@ -67,6 +67,13 @@ void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
 
 void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 
+void ChildWindow::takeKeyboard() {
+  QWidget* taker = focusWidget();
+  for (auto* next = pane_->nextInFocusChain(); !taker && pane_->isAncestorOf(next); next = next->nextInFocusChain())
+    if (next->focusPolicy() & Qt::TabFocus && next->isEnabled() && next->isVisibleTo(pane_)) taker = next;
+  (taker ? taker : this)->setFocus(Qt::OtherFocusReason);
+}
+
 void ChildWindow::end() {
   view_->detach();
   hide();

@@ -20,6 +20,8 @@ class ChildWindow final : public QMdiSubWindow {
   // At that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
+  // Gives the keyboard to the widget that had it last, else to the first one.
+  void takeKeyboard();
   // The form has ended; the window goes away at the next turn of the event loop.
   void end();
 

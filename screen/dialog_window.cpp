@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLayout>
+#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 
@@ -44,11 +45,12 @@ void DialogWindow::openOnScreen() {
 
 void DialogWindow::runModal() {
   setWindowModality(Qt::ApplicationModal);
+  const QPointer<DialogWindow> alive(this);  // the loop that it ends may delete it
   QEventLoop loop;
   loop_ = &loop;
   openOnScreen();
   if (!form().wasUnloaded()) loop.exec(QEventLoop::DialogExec);
-  loop_ = nullptr;
+  if (alive) loop_ = nullptr;
 }
 
 void DialogWindow::paintNow() {

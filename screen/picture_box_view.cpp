@@ -25,6 +25,7 @@ std::vector<PlacedControl*> backToFront(const Form& form) {
 }  // namespace
 
 PictureBoxView::PictureBoxView(PictureBox& box, QWidget& widget, FormView& form) : View(box, widget, form), box_(box) {
+  widget.setAutoFillBackground(true);  // it covers what is scrolled under it
   if (box_.hasPicture()) onEvent(widget, [this](QEvent& event) { return paint(event); });
 }
 

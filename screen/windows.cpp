@@ -24,6 +24,7 @@ Windows::~Windows() {
   desktop_.unwatch(*this);
   following_ = true;
   for (auto* dialog : dialogs_) delete dialog;
+  main_.reset();
 }
 
 ChildWindow* Windows::childOf(const Form& form) const { return windowOf(children_, form); }
@@ -62,9 +63,8 @@ void Windows::showChild(Form& form) {
     window->openAt(freeCorner(), main_->area().viewport()->size());
     children_.push_back(window);
   }
-  if (window->isMinimized()) window->showNormal();
   window->show();
-  main_->area().setActiveSubWindow(window);
+  bringToFront(*window);
 }
 
 // Beside the window opened last, so that the title bars of all can be seen.
@@ -108,8 +108,16 @@ void Windows::activated(Form& form) {
   auto* window = childOf(form);
   // When the active window is minimised Qt walks on to the next one, which may be an icon and stays one.
   if (!window || window == main_->area().activeSubWindow()) return;
-  if (window->isMinimized()) window->showNormal();
-  main_->area().setActiveSubWindow(window);
+  bringToFront(*window);
+}
+
+void Windows::bringToFront(ChildWindow& window) {
+  if (window.isMinimized()) window.showNormal();
+  main_->area().setActiveSubWindow(&window);
+  // While a message box goes away, the main window is not active: it would give the keyboard, and with it the
+  // activation, back to the child that had it last.
+  const QWidget* kept = main_->focusWidget();
+  if (!kept || !window.isAncestorOf(kept)) window.takeKeyboard();
 }
 
 void Windows::activatedByUser(QMdiSubWindow* window) {

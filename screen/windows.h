@@ -41,6 +41,7 @@ class Windows final : public DesktopObserver {
   void showFrame(Form& form);
   void showChild(Form& form);
   DialogWindow& openDialog(Form& form);
+  void bringToFront(ChildWindow& window);
   QPoint freeCorner() const;
   void activatedByUser(QMdiSubWindow* window);
 

@@ -91,6 +91,23 @@ TEST_F(MainWindows, ActivationGoesBothWays) {
   EXPECT_EQ(activeChild(), windows.childOf(second));
 }
 
+TEST_F(MainWindows, TheSheetIsTheActiveWindowOnceTheBoxBeforeItHasGone) {
+  start();
+  auto& character = newCharacter();
+  name(character, "Lou");
+  windows.acts().perform([&](User& user) { user.type(character.txtAge, "30"); });
+  onceOpen<QMessageBox>([](QMessageBox& box) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  QTest::mouseClick(&find<QPushButton>(character, "cmdPrintPreview"), Qt::LeftButton);
+  windows.mainWindow()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(windows.mainWindow()));
+  QTest::qWait(50);
+  ASSERT_EQ(run.desktop().activeChild()->Name(), "frmFeuille");
+  EXPECT_EQ(activeChild(), windows.childOf(*run.desktop().activeChild()));
+}
+
 TEST_F(MainWindows, ChildrenCloseWithTheirFormsAndTheFormerOneIsActiveAgain) {
   start();
   auto& first = newCharacter();
