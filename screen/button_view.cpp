@@ -1,8 +1,11 @@
 #include "screen/button_view.h"
 
+#include <optional>
+
 #include <QKeyEvent>
 #include <QStyle>
 
+#include "screen/pointer_shape.h"
 #include "screen/qt_text.h"
 
 namespace orvane {
@@ -36,6 +39,9 @@ bool ButtonView::enterPressed(const QEvent& event) {
 }
 
 void ButtonView::click() {
+  // A button may compose or save a sheet; an arrow only steps.
+  std::optional<PointerShape> busy;
+  if (command_.picture() == CommandButton::Picture::None) busy.emplace(Qt::WaitCursor);
   act([this](User& user) { user.click(command_); });
 }
 

@@ -11,6 +11,7 @@
 
 #include "screen/cancel_button.h"
 #include "screen/layouts.h"
+#include "screen/pointer_shape.h"
 #include "screen/qt_text.h"
 
 namespace orvane {
@@ -44,6 +45,7 @@ void DialogWindow::openOnScreen() {
 }
 
 void DialogWindow::runModal() {
+  const PointerShape arrow(Qt::ArrowCursor);
   setWindowModality(Qt::ApplicationModal);
   const QPointer<DialogWindow> alive(this);  // the loop that it ends may delete it
   QEventLoop loop;

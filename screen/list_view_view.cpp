@@ -32,7 +32,7 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   secondClick_.setInterval(QApplication::doubleClickInterval());
   on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });
   onEvent(*tree_.viewport(), [this](QEvent& event) { return viewportEvent(event); });
-  onEvent(tree_, [this](QEvent& event) { return keyPressed(event); });
+  onEvent(tree_, [this](QEvent& event) { return treeEvent(event); });
   // With the mouse seen to above, only keys, type-ahead and screen readers move the current row.
   on(&tree_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) { clickRow(item); });
 }
@@ -78,12 +78,24 @@ QFont cellFont(const QWidget& list, bool bold) {
   return font;
 }
 
-// "Tir, niveau 3": what a screen reader says of a row.
-QString spokenRow(const ListItem& row) {
-  const QString name = toQt(row.Text());
-  if (row.subItemCount() < 1 || row.SubItems(1).empty()) return name;
-  const QString level = toQt(row.SubItems(1));
-  return name + ", " + (level.front().isLetter() ? level : "niveau " + level);
+bool isNumber(const QString& text) {
+  bool number = false;
+  text.toDouble(&number);
+  return number;
+}
+
+// "Tir, niveau 3": what a screen reader says of a row. The number that comes first is the level.
+QString spokenRow(const ListView& list, const ListItem& row) {
+  QStringList said;
+  if (!row.Text().empty()) said << toQt(row.Text());
+  bool levelSaid = false;
+  for (int column = 1; column <= row.subItemCount(); ++column) {
+    const QString text = toQt(row.SubItems(column));
+    if (list.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0 || text.isEmpty()) continue;
+    if (!isNumber(text)) said << text;
+    if (isNumber(text) && !std::exchange(levelSaid, true)) said << "niveau " + text;
+  }
+  return said.join(", ");
 }
 
 }  // namespace
@@ -95,7 +107,7 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   write(item, 0, Qt::DisplayRole, toQt(row.Text()));
   write(item, 0, Qt::FontRole, cellFont(tree_, row.Bold()));
   write(item, 0, cellColourRole, cellColour(row.ForeColor()));
-  write(item, 0, Qt::AccessibleTextRole, spokenRow(row));
+  write(item, 0, Qt::AccessibleTextRole, spokenRow(list_, row));
   if (list_.checkBoxes()) write(item, 0, Qt::CheckStateRole, row.Checked() ? Qt::Checked : Qt::Unchecked);
   for (int column = 1; column <= row.subItemCount() && column < tree_.columnCount(); ++column) {
     const auto& header = list_.ColumnHeaders()[static_cast<std::size_t>(column)];
@@ -147,7 +159,7 @@ bool ListViewView::viewportEvent(QEvent& event) {
 bool ListViewView::pressed(const QPoint& where, bool twice) {
   auto* item = tree_.itemAt(where);
   if (!item) return true;
-  const bool again = item == tree_.currentItem() && tree_.hasFocus();
+  const bool again = !std::exchange(entered_, false) && item == tree_.currentItem();
   secondClick_.stop();
   if (list_.checkBoxes() && onCheckBox(*item, where)) {
     toggle(item);
@@ -169,7 +181,8 @@ bool ListViewView::onCheckBox(QTreeWidgetItem& item, const QPoint& where) const 
   return tree_.style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &tree_).contains(where);
 }
 
-bool ListViewView::keyPressed(QEvent& event) {
+bool ListViewView::treeEvent(QEvent& event) {
+  if (event.type() == QEvent::FocusIn) entered_ = static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
   if (event.type() != QEvent::KeyPress) return false;
   const int key = static_cast<QKeyEvent&>(event).key();
   if (key == Qt::Key_Space && list_.checkBoxes())

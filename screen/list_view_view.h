@@ -24,7 +24,7 @@ class ListViewView final : public View {
   int widthOfTexts(int column) const;
 
   bool viewportEvent(QEvent& event);
-  bool keyPressed(QEvent& event);
+  bool treeEvent(QEvent& event);
   bool pressed(const QPoint& where, bool twice);
   bool onCheckBox(QTreeWidgetItem& item, const QPoint& where) const;
   void clickRow(QTreeWidgetItem* item);
@@ -39,6 +39,8 @@ class ListViewView final : public View {
   ListItemRef edited_;
   // Ends with the view: an editor that is still open hands its text to nobody.
   ListDelegate delegate_{[this](const QString& text) { endEdit(text); }};
+  // The click that brought the focus is none for the name.
+  bool entered_ = false;
   QTimer secondClick_;
 };
 

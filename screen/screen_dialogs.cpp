@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "screen/pointer_shape.h"
 #include "screen/qt_text.h"
 #include "screen/windows.h"
 #include "surface/desktop.h"
@@ -63,10 +64,8 @@ class Waiting {
  public:
   explicit Waiting(Windows* windows) : windows_(windows) {
     if (windows_) windows_->acts().suspend();
-    QApplication::setOverrideCursor(Qt::ArrowCursor);
   }
   ~Waiting() {
-    QApplication::restoreOverrideCursor();
     if (windows_) windows_->acts().resume();
   }
   Waiting(const Waiting&) = delete;
@@ -74,6 +73,7 @@ class Waiting {
 
  private:
   Windows* windows_;
+  PointerShape arrow_{Qt::ArrowCursor};
 };
 
 }  // namespace

@@ -52,6 +52,7 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
   auto& newContact = find<QPushButton>(character, "cmdContactNew");
   onceOpen<DialogWindow>([&](DialogWindow& dialog) {
     EXPECT_EQ(run.desktop().modal()->Name(), "frmContact");
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
     // The windows behind take nothing.
     EXPECT_FALSE(windows.acts().perform([&](User& user) { user.focus(character.txtJoueur); }));
     auto* name = dialog.findChild<QLineEdit*>("txtContactName");
@@ -62,6 +63,7 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
   });
   QTest::mouseClick(&newContact, Qt::LeftButton);
   settle();
+  EXPECT_FALSE(QGuiApplication::overrideCursor());
   EXPECT_EQ(find<QListWidget>(character, "lstContact").count(), 1);
   onceOpen<DialogWindow>([](DialogWindow& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   QTest::mouseClick(&newContact, Qt::LeftButton);
