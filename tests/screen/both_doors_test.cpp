@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <sstream>
@@ -9,6 +10,7 @@
 #include "tests/screen/application.h"
 #include "tests/screen/widget_door.h"
 #include "tests/support/fakes.h"
+#include "tests/support/game_files.h"
 #include "tests/support/golden_scripts.h"
 
 namespace orvane::test {
@@ -17,16 +19,29 @@ namespace {
 // Scripts that widgets cannot play alike, each with the reason.
 const std::map<std::string, std::string> cannotBeTheSame = {};
 
-GoldenOutput playedOnWidgets(const GoldenScript& script) {
+// Through the door, or by the player alone where there is none.
+GoldenOutput played(const GoldenScript& script, WidgetDoor* door) {
   DiskFiles files;
   QtPictures pictures;
   FakeClock midday;
-  WidgetDoor door;
   std::istringstream in;
   std::ostringstream out;
   std::ostringstream err;
-  const int status = playScripts(goldenArguments(script), in, out, err, {files, pictures, midday, &door});
+  const int status = playScripts(goldenArguments(script), in, out, err, {files, pictures, midday, door});
   return {out.str(), err.str(), status};
+}
+
+GoldenOutput playedOnWidgets(const GoldenScript& script) {
+  WidgetDoor door;
+  return played(script, &door);
+}
+
+// The bytes of all bitmaps in the current folder, by path.
+std::map<std::string, std::string> bitmaps() {
+  std::map<std::string, std::string> found;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator("."))
+    if (entry.path().extension() == ".bmp") found[entry.path()] = bytesOf(entry.path());
+  return found;
 }
 
 // The approved transcripts are those of the player; the screen only has to agree.
@@ -41,6 +56,26 @@ TEST(BothDoors, LeadToTheSameTranscript) {
     const ScratchFolder folder(script);
     expectGolden(script, goldenText(playedOnWidgets(script), folder));
   }
+}
+
+TEST(BothDoors, WriteTheSameBytes) {
+  needApplication();
+  std::size_t compared = 0;
+  for (const auto& script : goldenScripts()) {
+    SCOPED_TRACE(script.name);
+    std::map<std::string, std::string> byPlayer;
+    {
+      const ScratchFolder folder(script);
+      played(script, nullptr);
+      byPlayer = bitmaps();
+    }
+    if (byPlayer.empty()) continue;
+    const ScratchFolder folder(script);
+    playedOnWidgets(script);
+    EXPECT_TRUE(bitmaps() == byPlayer);
+    compared += byPlayer.size();
+  }
+  EXPECT_GE(compared, 6U);
 }
 
 }  // namespace
