@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <vector>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 
 #include "screen/main_menu.h"
@@ -53,6 +55,27 @@ MainWindow::MainWindow(frmMain& frame, Acts& acts)
   setCentralWidget(&area_);
   fillMenu(*menuBar(), frame_, acts_);
   addKeys();
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) { bringIntoSight(focus); });
+}
+
+namespace {
+
+void scrollBy(QScrollBar& bar, int before, int behind) {
+  if (before < 0) bar.setValue(bar.value() + before);
+  if (before >= 0 && behind > 0) bar.setValue(bar.value() + std::min(before, behind));
+}
+
+}  // namespace
+
+// Who goes on with the Tab key sees where, also where a child is larger than the window. What is clicked stays in
+// place.
+void MainWindow::bringIntoSight(const QWidget* focus) {
+  const auto* sight = area_.viewport();
+  const bool byMouse = QApplication::mouseButtons() != Qt::NoButton;
+  if (byMouse || !focus || !sight->isAncestorOf(focus)) return;
+  const QRect place(focus->mapTo(sight, QPoint()), focus->size());
+  scrollBy(*area_.horizontalScrollBar(), place.left(), place.right() - sight->width());
+  scrollBy(*area_.verticalScrollBar(), place.top(), place.bottom() - sight->height());
 }
 
 void MainWindow::addKeys() {

@@ -29,6 +29,7 @@ class MainWindow final : public QMainWindow {
   void addKeys();
   void activateBeside(int step);
   void reportPlacement();
+  void bringIntoSight(const QWidget* focus);
 
   std::shared_ptr<Form> alive_;
   frmMain& frame_;

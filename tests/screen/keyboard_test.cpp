@@ -1,0 +1,161 @@
+#include <QLabel>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "tests/screen/desktop_fixture.h"
+
+namespace orvane::test {
+namespace {
+
+class Keyboard : public DesktopFixture {
+ protected:
+  void open(const char* width = "15000", const char* height = "10500") {
+    settings.values = {{"MainWidth", width}, {"MainHeight", height}};
+    start();
+  }
+  static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    turn();
+  }
+  static std::string focus() {
+    const auto* widget = QApplication::focusWidget();
+    if (!widget) return "nothing";
+    return (qobject_cast<const QTabBar*>(widget) ? widget->parent() : widget)->objectName().toStdString();
+  }
+  // The names of all that the key reaches, from the focus back to it.
+  static std::vector<std::string> round(Qt::Key key) {
+    std::vector<std::string> names{focus()};
+    while (names.size() < 60) {
+      press(key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+      if (focus() == names.front()) break;
+      names.push_back(focus());
+    }
+    return names;
+  }
+  void pickTab(frmPersonnage& character, int tab) {
+    windows.acts().perform([&](User& user) { user.pick(character.SSTabPerso, tab); });
+    turn();
+  }
+};
+
+std::string joined(const std::vector<std::string>& names) {
+  std::string all;
+  for (const auto& name : names) all += (all.empty() ? "" : " ") + name;
+  return all;
+}
+
+TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
+  const char* const orders[] = {
+      "txtPerso cmbSexe txtAge txtYeux txtTaille txtPoids txtCheveux cmbDistrict cmbEthnie cmbProfil cmbGrade "
+      "cmbVehicle txtLangRest optLang_0 txtLang_0 optLang_1 txtLang_1 optLang_2 txtOtherLang txtLang_2 cmdLangModif_0 "
+      "cmdLangModif_1",
+      "optCaract_0 optCaract_1 optCaract_2 optCaract_3 optCaract_4 optCaract_5 optCaract_6 optCaract_7 "
+      "cmdCaractModif_0 cmdCaractModif_1 lblSecondCaract_0 lblSecondCaract_1 lblSecondCaract_2",
+      "lstContact cmdContactNew txtContactDescro optContact_0 optContact_1",
+      "lvwSkillGen txtSkillRest cmdSkillGenModif_0 cmdSkillGenModif_1",
+      "lvwMartialArt cmdMartialArtModif_0 cmdMartialArtModif_1 lvwMartialTechnic",
+      "chkMuta cmbMutaCateg cmbMutaName cmdMutaRandomChoice txtParticulSign"};
+  open();
+  auto& character = newCharacter();
+  for (int tab = 0; tab < 6; ++tab) {
+    pickTab(character, tab);
+    find<QWidget>(character, "txtJoueur").setFocus(Qt::TabFocusReason);
+    auto names = round(Qt::Key_Tab);
+    EXPECT_EQ(joined(names),
+              "txtJoueur cmdPrintPreview cmdHelp cmdClose SSTabPerso " + std::string(orders[tab]) + " txtAllDescro");
+    std::reverse(names.begin() + 1, names.end());
+    EXPECT_EQ(joined(round(Qt::Key_Backtab)), joined(names));
+  }
+}
+
+// A button that a mnemonic presses is seen to go down before it clicks.
+TEST_F(Keyboard, MnemonicsPressTheButtonsOfTheActiveWindowOnly) {
+  open();
+  auto& first = newCharacter();
+  auto& second = newCharacter();
+  const auto activeSoon = [this](const std::string& name) {
+    return QTest::qWaitFor([&] { return run.desktop().activeChild()->Name() == name; }, 2000);
+  };
+  find<QWidget>(second, "txtPerso").setFocus();
+  press(Qt::Key_A, Qt::AltModifier);
+  EXPECT_TRUE(activeSoon("FrmReadMe"));
+  press(Qt::Key_Escape);
+  settle();
+  ASSERT_EQ(run.desktop().activeChild(), &second);
+  find<QWidget>(second, "txtPerso").setFocus();
+  press(Qt::Key_C, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return run.desktop().activeChild() == &first; }, 2000));
+  EXPECT_EQ(run.desktop().activationOrder().size(), 1U);
+}
+
+TEST_F(Keyboard, CtrlTabGoesRoundTheWindowsBothWays) {
+  open();
+  Form* opened[] = {&newCharacter(), &newCharacter(), &newCharacter()};
+  const auto after = [&](Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(windows.mainWindow(), Qt::Key_Tab, modifiers);
+    turn();
+    return std::find(opened, opened + 3, run.desktop().activeChild()) - opened;
+  };
+  EXPECT_EQ(after(Qt::ControlModifier), 0);
+  EXPECT_EQ(after(Qt::ControlModifier), 1);
+  EXPECT_EQ(after(Qt::ControlModifier | Qt::ShiftModifier), 0);
+  EXPECT_EQ(after(Qt::ControlModifier | Qt::ShiftModifier), 2);
+}
+
+TEST_F(Keyboard, ClosedTabsAreJumpedOver) {
+  open();
+  auto& character = newCharacter();
+  character.SSTabPerso.setTabEnabled(3, false);
+  character.SSTabPerso.setTabEnabled(4, false);
+  pickTab(character, 2);
+  find<QWidget>(character, "lstContact").setFocus();
+  press(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(character.SSTabPerso.Tab(), 5);
+  press(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(character.SSTabPerso.Tab(), 5);
+  press(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(character.SSTabPerso.Tab(), 2);
+}
+
+TEST_F(Keyboard, LabelsThatTellSomethingAreReachedToo) {
+  open();
+  auto& character = newCharacter();
+  pickTab(character, 1);
+  auto& reaction = find<QLabel>(character, "lblSecondCaract_1");
+  reaction.setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(reaction.font().underline());
+  const std::string before = character.txtAllDescro.Text();
+  press(Qt::Key_Space);
+  EXPECT_NE(character.txtAllDescro.Text(), before);
+  press(Qt::Key_Tab);
+  EXPECT_FALSE(reaction.font().underline());
+}
+
+TEST_F(Keyboard, EnterAndEscapeCloseAbout) {
+  open();
+  for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+    onceOpen<DialogWindow>([&](DialogWindow& about) { QTest::keyClick(&about, key); });
+    menu("mnuHelpAbout");
+    settle();
+    EXPECT_FALSE(run.desktop().modal());
+  }
+}
+
+TEST_F(Keyboard, TheFocusComesIntoSight) {
+  open("6500", "6500");
+  auto& character = newCharacter();
+  find<QWidget>(character, "txtJoueur").setFocus(Qt::TabFocusReason);
+  const auto* sight = windows.mainWindow()->area().viewport();
+  for (const auto& name : round(Qt::Key_Tab)) {
+    auto* widget = QApplication::focusWidget();
+    const QRect place(widget->mapTo(sight, QPoint()), widget->size());
+    EXPECT_TRUE(sight->rect().contains(place.topLeft())) << name;
+    press(Qt::Key_Tab);
+  }
+}
+
+}  // namespace
+}  // namespace orvane::test
