@@ -58,6 +58,7 @@ void ComboBoxView::showSelection() {
 void ComboBoxView::show() {
   const QSignalBlocker silent(combo_);
   showBoxColour(combo_, box_.BackColor());
+  if (!box_.Visible()) return combo_.clear();  // what is hidden may be a secret
   showEntries();
   showSelection();
 }
