@@ -84,10 +84,16 @@ bool isNumber(const QString& text) {
   return number;
 }
 
+// A row without a name goes with the one above it.
+std::string nameOf(const ListView& list, const ListItem& row) {
+  const bool hasNone = row.Text().empty() && row.Index() > 1;
+  return hasNone ? list.ListItems(row.Index() - 1)->Text() : row.Text();
+}
+
 // "Tir, niveau 3": what a screen reader says of a row. The number that comes first is the level.
 QString spokenRow(const ListView& list, const ListItem& row) {
   QStringList said;
-  if (!row.Text().empty()) said << toQt(row.Text());
+  if (const auto name = nameOf(list, row); !name.empty()) said << toQt(name);
   bool levelSaid = false;
   for (int column = 1; column <= row.subItemCount(); ++column) {
     const QString text = toQt(row.SubItems(column));

@@ -75,6 +75,14 @@ QPalette boxPalette(Colour backColor, const QPalette& palette) {
   return box;
 }
 
+QPalette readingPalette(const QPalette& palette) {
+  QPalette box = palette;
+  box.setColor(
+      QPalette::Disabled, QPalette::Text,
+      readable(palette.color(QPalette::Disabled, QPalette::Text), palette.color(QPalette::Disabled, QPalette::Base)));
+  return box;
+}
+
 QString markInWords(Colour backColor) {
   switch (backColor) {
     case Colour::EssentialBroken:

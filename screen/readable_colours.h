@@ -24,6 +24,9 @@ QColor readable(const QColor& colour, const QColor& background, double wanted = 
 // darkened on dark palettes, with text that can be read on it.
 QPalette boxPalette(Colour backColor, const QPalette& palette);
 
+// A palette for a box that is only read: disabled, it can be read as well.
+QPalette readingPalette(const QPalette& palette);
+
 // What a mark says in words; empty for the colours of the system.
 QString markInWords(Colour backColor);
 

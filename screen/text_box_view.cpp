@@ -7,6 +7,7 @@
 
 #include "screen/box_colour.h"
 #include "screen/qt_text.h"
+#include "screen/readable_colours.h"
 
 namespace orvane {
 
@@ -39,6 +40,7 @@ MultiLineView::MultiLineView(TextBox& box, QPlainTextEdit& edit, FormView& form)
 void MultiLineView::show() {
   const QSignalBlocker silent(edit_);
   showBoxColour(edit_, box_.BackColor());
+  if (box_.readOnly()) edit_.setPalette(readingPalette(edit_.palette()));
   const QString text = shownLines(box_.Text());
   if (edit_.toPlainText() == text) return;
   const int position = edit_.textCursor().position();
