@@ -120,7 +120,8 @@ class Tour {
   QtPictures pictures_;
   Run run_{{dialogs_, clock_, settings_, files_, pictures_}};
   Windows windows_{run_.desktop()};
-  Stage stage_{run_.desktop(), transcript_, dialogs_, clock_};
+  User user_{run_.desktop()};
+  Stage stage_{run_.desktop(), user_, transcript_, dialogs_, clock_};
   Script script_;
   std::size_t next_ = 0;
 };

@@ -119,7 +119,8 @@ TEST_F(Layouts, TellPoolsAndRowsInWords) {
   EXPECT_EQ(list->tableInterface()->cellAt(0, 0)->text(QAccessible::Name),
             first + ", niveau " + toQt(character.lvwSkillGen.ListItems(1)->SubItems(1)));
   auto* arts = QAccessible::queryAccessibleInterface(&find<QWidget>(character, "lvwMartialArt"));
-  EXPECT_EQ(arts->tableInterface()->cellAt(1, 0)->text(QAccessible::Name), toQt(character.lvwMartialArt.ListItems(1)->Text()) + ", Défensif, niveau 0");
+  EXPECT_EQ(arts->tableInterface()->cellAt(1, 0)->text(QAccessible::Name),
+            toQt(character.lvwMartialArt.ListItems(1)->Text()) + ", Défensif, niveau 0");
 }
 
 }  // namespace
