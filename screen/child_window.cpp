@@ -54,6 +54,7 @@ void ChildWindow::answerEscape() {
 
 void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
   move(corner);
+  measureAnew(*pane_);
   const QSize design = pane_->size().expandedTo(pane_->sizeHint());
   pane_->setFixedSize(design);
   adjustSize();

@@ -28,6 +28,7 @@ DialogWindow::DialogWindow(Form& form, Acts& acts, QWidget* parent) : QDialog(pa
 void DialogWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 
 void DialogWindow::centre() {
+  measureAnew(*this);
   adjustSize();
   const auto* over = parentWidget();
   const QRect room = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();

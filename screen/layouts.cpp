@@ -1,8 +1,10 @@
 #include "screen/layouts.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include <QDialog>
+#include <QLayout>
 
 #include "ui_FrmReadMe.h"
 #include "ui_frmContact.h"
@@ -35,6 +37,17 @@ void layOut(const Form& form, QWidget& window) {
   for (const auto& layout : layouts)
     if (layout.form == form.Name()) return layout.fill(window);
   throw std::logic_error(form.Name() + " has no layout");
+}
+
+// Layouts remember the sizes of their parts, and the layouts around them remember theirs.
+void measureAnew(QWidget& window) {
+  auto parts = window.findChildren<QWidget*>();
+  std::reverse(parts.begin(), parts.end());
+  for (auto* part : parts << &window) {
+    if (part->layout()) part->layout()->invalidate();
+    if (part->layout()) part->layout()->activate();
+    part->updateGeometry();
+  }
 }
 
 }  // namespace orvane

@@ -10,4 +10,7 @@ namespace orvane {
 // Throws std::logic_error for a form without a layout.
 void layOut(const Form& form, QWidget& window);
 
+// Makes the size hint of a window that is not shown yet count what its widgets hold by now.
+void measureAnew(QWidget& window);
+
 }  // namespace orvane

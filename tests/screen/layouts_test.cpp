@@ -7,32 +7,15 @@
 #include <QDialog>
 #include <QRegularExpression>
 
-#include "editor/frmContact.h"
 #include "screen/qt_text.h"
-#include "sheet/frmFeuille.h"
-#include "shell/FrmReadMe.h"
-#include "shell/frmSplash.h"
-#include "tests/screen/desktop_fixture.h"
+#include "tests/screen/every_form.h"
 
 namespace orvane::test {
 namespace {
 
-// Each form in a window of its own, on the screen.
-class Layouts : public DesktopFixture {
+class Layouts : public EveryForm {
  protected:
   Layouts() { start(); }
-  void forEach(const std::function<void(Form&, QWidget&)>& check) {
-    Form& character = newCharacter();
-    check(character, *windows.childOf(character)->widget());
-    for (const auto& form : std::initializer_list<std::shared_ptr<Form>>{
-             std::make_shared<frmFeuille>(run.globals()), std::make_shared<FrmReadMe>(run.desktop()),
-             std::make_shared<frmContact>(run.globals()), std::make_shared<frmSplash>(run.desktop())}) {
-      form->Show();
-      turn();
-      auto* child = windows.childOf(*form);
-      check(*form, child ? *child->widget() : *windows.dialogOf(*form));
-    }
-  }
 };
 
 // What a layout adds for its own sake: pages and boxes around controls, and the inner parts of Qt's widgets.
@@ -95,14 +78,9 @@ void walk(QAccessibleInterface* object, const std::string& path, std::vector<std
 }
 
 TEST_F(Layouts, NameEveryControlToScreenReaders) {
-  forEach([](Form& form, QWidget& window) {
+  forEachPage([](Form& form, QWidget& window) {
     std::vector<std::string> nameless;
-    auto* tabs = dynamic_cast<TabControl*>(form.find("SSTabPerso", {}));
-    for (int tab = 0; tab < (tabs ? 6 : 1); ++tab) {
-      if (tabs) tabs->setTab(tab);
-      turn();
-      walk(QAccessible::queryAccessibleInterface(&window), form.Name(), nameless);
-    }
+    walk(QAccessible::queryAccessibleInterface(&window), form.Name(), nameless);
     EXPECT_EQ(nameless, std::vector<std::string>());
   });
 }
