@@ -39,6 +39,8 @@ bool ButtonView::enterPressed(const QEvent& event) {
 }
 
 void ButtonView::click() {
+  // A shortcut presses a button without bringing the keyboard there; the form's focus does move.
+  if (!button_.hasFocus()) button_.setFocus(Qt::ShortcutFocusReason);
   // A button may compose or save a sheet; an arrow only steps.
   std::optional<PointerShape> busy;
   if (command_.picture() == CommandButton::Picture::None) busy.emplace(Qt::WaitCursor);

@@ -18,6 +18,7 @@ inline std::string bytesOf(const std::filesystem::path& path) {
 inline MemoryFiles gameFiles() {
   MemoryFiles files;
   for (const auto& entry : std::filesystem::directory_iterator(ORVANE_SOURCE_DIR "/game")) {
+    if (!entry.is_regular_file()) continue;  // the sheets that somebody saved there
     const std::string name = entry.path().filename().string();
     files.contents[name] = files.contents["./" + name] = bytesOf(entry.path());
   }
