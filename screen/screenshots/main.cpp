@@ -4,21 +4,30 @@
 #include <QApplication>
 
 #include "screen/program.h"
-#include "screen/screenshots/themes.h"
 #include "screen/screenshots/tour.h"
+#include "screen/themes.h"
 
-// orvane-screenshots FOLDER SCRIPT, in the folder of the data files. QT_SCALE_FACTOR is heeded.
+namespace {
+
+bool isWanted(const orvane::Theme& theme, const QStringList& names) {
+  return names.isEmpty() || names.contains(theme.name);
+}
+
+}  // namespace
+
+// orvane-screenshots FOLDER SCRIPT [THEME...], in the folder of the data files. QT_SCALE_FACTOR is heeded.
 int main(int argc, char* argv[]) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   orvane::dressUp();
-  if (argc != 3) {
-    std::fputs("usage: orvane-screenshots FOLDER SCRIPT\n", stderr);
+  if (argc < 3) {
+    std::fputs("usage: orvane-screenshots FOLDER SCRIPT [THEME...]\n", stderr);
     return 2;
   }
   try {
     for (const auto& theme : orvane::themes()) {
+      if (!isWanted(theme, QApplication::arguments().mid(3))) continue;
       QApplication::setPalette(theme.palette);
       orvane::takeTour(argv[2], orvane::Album(argv[1], theme.name));
     }

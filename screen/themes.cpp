@@ -1,4 +1,4 @@
-#include "screen/screenshots/themes.h"
+#include "screen/themes.h"
 
 namespace orvane {
 namespace {
