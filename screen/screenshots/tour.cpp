@@ -4,7 +4,9 @@
 #include <sstream>
 #include <stdexcept>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
 
 #include "canvas/qt_pictures.h"
 #include "editor/frmContact.h"
@@ -31,7 +33,6 @@ class Tour {
   explicit Tour(const Album& album) : album_(album) {
     dialogs_.playModal = [this](Form& form) { playModal(form); };
     run_.Main();
-    main().resize(900, 640);
   }
   ~Tour() {
     if (auto* frame = run_.mainWindow()) stage_.user().close(*frame);
@@ -48,6 +49,7 @@ class Tour {
     takeSheet();
     takeMarks();
     takeDialogs();
+    takeBox();
     takeHelp();
   }
 
@@ -73,7 +75,14 @@ class Tour {
     if (form.isLoaded()) stage_.user().close(form);
   }
 
+  // As large as the window inside it, wherever that stands, and no larger than needed.
+  void fitMain() {
+    const auto* child = windows_.childOf(*run_.desktop().activeChild());
+    const QSize around = main().size() - main().area().viewport()->size();
+    main().resize(around + QSize(child->geometry().right() + 1, child->geometry().bottom() + 1));
+  }
   void takeTabs() {
+    fitMain();
     for (int tab = 0; tab < 6; ++tab) {
       act("pick SSTabPerso " + std::to_string(tab));
       if (tab == 2) act("pick lstContact 0\nclick optContact(0)");
@@ -82,27 +91,44 @@ class Tour {
     }
   }
   void takeSheet() {
-    main().resize(900, 1160);
+    main().resize(1000, 1160);
     act("answer OK\nclick cmdPrintPreview");
     album_.take(main(), "feuille-recto");
     act("click optFeuille(1)");
     album_.take(main(), "feuille-verso");
     act("close");
-    main().resize(900, 640);
   }
   void takeMarks() {
     act("click mnuFileNewPJ\ntype txtTaille \"grand\"\nclick cmdPrintPreview");
+    fitMain();
     album_.take(main(), "contraintes");
     act("close");
   }
   void takeDialogs() {
-    takeDialog(std::make_shared<frmContact>(run_.globals()), "contact");
+    const auto contact = std::make_shared<frmContact>(run_.globals());
+    contact->txtContactName.setText("Mado");
+    contact->txtContactDescro.setText("Tient le café d'en face ; entend tout.");
+    takeDialog(contact, "contact");
     takeDialog(std::make_shared<frmSplash>(run_.desktop()), "a-propos");
   }
   void takeDialog(const std::shared_ptr<Form>& form, const QString& picture) {
     form->Show();
     if (auto* dialog = windows_.dialogOf(*form)) album_.take(*dialog, picture);
     form->Unload();
+  }
+  // A message box blocks until it is answered.
+  void takeBox() {
+    ScreenDialogs boxes;
+    boxes.setWindows(windows_);
+    QTimer::singleShot(0, &main(), [this] {
+      auto* box = static_cast<QDialog*>(QApplication::activeModalWidget());
+      album_.take(*box, "question");
+      box->reject();
+    });
+    boxes.MsgBox(
+        "Après la sauvegarde, vous ne pourrez plus modifier le personnage.\r\n"
+        "Etes-vous certain de vouloir continuer ?",
+        BoxStyle::OkCancel, "Sauvegarde de Anne Ravel");
   }
   void takeHelp() {
     act("click mnuHelpContents");
