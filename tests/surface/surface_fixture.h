@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -30,22 +31,16 @@ namespace orvane::test {
 using Log = std::vector<std::string>;
 
 class Sample;
-using Hook = std::function<void(Sample&)>;
+// What a form runs inside its events, by the text that is noted of them.
+using Handlers = std::map<std::string, std::function<void(Sample&)>>;
 
-// What the events of a form itself run.
-struct Hooks {
-  Hook load = {};
-  Hook activate = {};
-  Hook unload = {};
-};
-
-// A form with controls of every kind, which notes each event as "CONTROL.EVENT" and runs what a test hangs on it.
+// A form with controls of every kind, which notes each event as "CONTROL.EVENT", behind its caption where it has one.
 class Sample : public Form {
  public:
-  Sample(Desktop& desktop, Log& log, std::string caption, Role role, Hooks hooks)
+  Sample(Desktop& desktop, Log& log, std::string caption, Role role, Handlers handlers)
       : Form(desktop, {.name = "Sample", .role = role, .caption = std::move(caption)}),
-        log_(log),
-        hooks_(std::move(hooks)) {
+        on(std::move(handlers)),
+        log_(log) {
     noteFocus();
     noteChanges();
     noteClicks();
@@ -70,23 +65,18 @@ class Sample : public Form {
   Family<OptionButton> framed{frame, "framed", 2};
   TextBox deep{frame, "deep"};
 
-  // What the next events run, once noted; by the text that is noted.
-  std::function<void(const std::string&)> then;
+  Handlers on;
 
  protected:
-  void Form_Load() override { run("Form_Load", hooks_.load); }
-  void Form_Activate() override { run("Form_Activate", hooks_.activate); }
-  void Form_Unload() override { run("Form_Unload", hooks_.unload); }
+  void Form_Load() override { happened("Form_Load"); }
+  void Form_Activate() override { happened("Form_Activate"); }
+  void Form_Unload() override { happened("Form_Unload"); }
 
  private:
-  void note(const std::string& event) { log_.push_back(Caption() + ": " + event); }
-  void run(const std::string& event, const Hook& hook) {
-    note(event);
-    if (hook) hook(*this);
-  }
+  void note(const std::string& event) { log_.push_back((Caption().empty() ? "" : Caption() + ": ") + event); }
   void happened(const std::string& event) {
     note(event);
-    if (then) then(event);
+    if (const auto handler = on.find(event); handler != on.end()) handler->second(*this);
   }
 
   void noteFocus() {
@@ -96,26 +86,16 @@ class Sample : public Form {
     }
   }
   void noteChanges() {
-    const auto change = [this](auto& control) {
-      control.Change.handle([this, &control] { happened(control.id() + ".Change"); });
+    const auto change = [this](auto&... control) {
+      (control.Change.handle([this, &control] { happened(control.id() + ".Change"); }), ...);
     };
-    change(text);
-    change(locked);
-    change(combo);
-    change(bar);
-    change(deep);
+    change(text, locked, combo, bar, deep);
   }
   void noteClicks() {
-    const auto click = [this](auto& control) {
-      control.Click.handle([this, &control] { happened(control.id() + ".Click"); });
+    const auto click = [this](auto&... control) {
+      (control.Click.handle([this, &control] { happened(control.id() + ".Click"); }), ...);
     };
-    click(list);
-    click(combo);
-    click(names);
-    click(check);
-    click(button);
-    click(other);
-    click(label);
+    click(list, combo, names, check, button, other, label);
     for (auto* family : {&front, &back, &framed})
       for (auto& option : *family) click(option);
     tabs.Click.handle([this](std::int16_t previous) { happened("tabs.Click(" + std::to_string(previous) + ")"); });
@@ -134,19 +114,18 @@ class Sample : public Form {
   }
 
   Log& log_;
-  Hooks hooks_;
 };
 
 class Surface : public testing::Test {
  protected:
   // Opens a window and gives it up to the desktop: it is freed as soon as it is closed.
-  Sample& open(std::string caption = "A", Form::Role role = Form::Role::Child, Hooks hooks = {}) {
-    const auto form = make(std::move(caption), role, std::move(hooks));
+  Sample& open(std::string caption = "", Form::Role role = Form::Role::Child, Handlers handlers = {}) {
+    const auto form = make(std::move(caption), role, std::move(handlers));
     desktop.perform([&] { form->Show(); });
     return *form;
   }
-  std::shared_ptr<Sample> make(std::string caption, Form::Role role = Form::Role::Child, Hooks hooks = {}) {
-    return std::make_shared<Sample>(desktop, log, std::move(caption), role, std::move(hooks));
+  std::shared_ptr<Sample> make(std::string caption, Form::Role role = Form::Role::Child, Handlers on = {}) {
+    return std::make_shared<Sample>(desktop, log, std::move(caption), role, std::move(on));
   }
 
   // What was noted since the last call.
