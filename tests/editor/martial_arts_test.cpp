@@ -6,7 +6,7 @@ namespace {
 
 class MartialArts : public RunFixture {
  protected:
-  enum Rows { BoxeOffensive = 1, BoxeDefensive, LutteOffensive, LutteDefensive, VideOffensive, VideDefensive };
+  enum Rows { BoxeOffensive = 1, BoxeDefensive, LutteOffensive, LutteDefensive };
 
   MartialArts() { enter(frmPersonnage::ArtsMartiaux); }
 
@@ -23,40 +23,16 @@ class MartialArts : public RunFixture {
     for (const auto& row : perso->lvwMartialTechnic.rows()) text += (row->Checked() ? " *" : " ") + row->Text();
     return text;
   }
-  const std::string& told() const { return perso->txtAllDescro.Text(); }
 
   frmPersonnage* perso = open();
 };
-
-const std::string restricted = "!!! Vous devez tenir compte des restrictions en vigueur !!!\r\n\r\n";
-
-TEST_F(MartialArts, EnteringTheTabShowsTheFirstRow) {
-  EXPECT_EQ(state(), "0 0 0 0 0 0 | 10 | 0 | Crochet Direct Uppercut");
-  EXPECT_EQ(told(), "Boxe, description.");
-}
-
-TEST_F(MartialArts, ARestrictionIsToldAndNothingMoves) {
-  select(BoxeDefensive);
-  step(1);
-  EXPECT_EQ(state(), "0 0 0 0 0 0 | 10 | 0 | Garde");
-  EXPECT_EQ(told(), restricted + "Boxe, description.");
-  select(BoxeOffensive);
-  step(1, 2);
-  select(BoxeDefensive);
-  step(1);
-  EXPECT_EQ(state(), "2 1 0 0 0 0 | 7 | 1 | Garde");
-  select(BoxeOffensive);
-  step(0);
-  EXPECT_EQ(told(), restricted + "Boxe, description.");
-  EXPECT_EQ(state(), "2 1 0 0 0 0 | 7 | 2 | Crochet Direct Uppercut");
-}
 
 TEST_F(MartialArts, AnArtWithOneTermIsFree) {
   select(LutteDefensive);
   step(1, 2);
   EXPECT_EQ(state(), "0 0 0 2 0 0 | 8 | 0 |");
   select(LutteOffensive);
-  EXPECT_EQ(state(), "0 0 0 2 0 0 | 8 | 0 | Clé Crochet");  // "O" is no type
+  EXPECT_EQ(state(), "0 0 0 2 0 0 | 8 | 0 | Clé Crochet") << "\"O\" is no type";
 }
 
 TEST_F(MartialArts, PointsAboveTheTechniquesBuyNone) {
@@ -72,48 +48,29 @@ TEST_F(MartialArts, PointsAboveTheTechniquesBuyNone) {
 
 TEST_F(MartialArts, ACheckedTechniqueHoldsItsPoint) {
   step(1);
-  user.toggle(perso->lvwMartialTechnic, "Direct");
-  EXPECT_EQ(state(), "1 0 0 0 0 0 | 9 | 0 | Crochet *Direct Uppercut");
-  EXPECT_EQ(told(), "Direct, description.");
-  user.toggle(perso->lvwMartialTechnic, "Crochet");  // no right left: the box clears itself
-  EXPECT_EQ(state(), "1 0 0 0 0 0 | 9 | 0 | Crochet *Direct Uppercut");
-  EXPECT_EQ(told(), "Crochet, description.");
+  for (const char* technic : {"Direct", "Crochet"}) user.toggle(perso->lvwMartialTechnic, technic);
+  EXPECT_EQ(state(), "1 0 0 0 0 0 | 9 | 0 | Crochet *Direct Uppercut") << "no right left: the box clears itself";
+  EXPECT_EQ(perso->txtAllDescro.Text(), "Crochet, description.");
   step(0);
-  EXPECT_EQ(told(), "!!! Retirer d'abord une technique martial pour libérer un point !!!");
+  EXPECT_EQ(perso->txtAllDescro.Text(), "!!! Retirer d'abord une technique martial pour libérer un point !!!");
   user.toggle(perso->lvwMartialTechnic, "Direct");
   step(0);
   EXPECT_EQ(state(), "0 0 0 0 0 0 | 10 | 0 | Crochet Direct Uppercut");
 }
 
-TEST_F(MartialArts, ChecksAreKeptByArtAndByWindow) {
+TEST_F(MartialArts, ChecksAreKeptByArtAndGoWithTheProfile) {
   step(1, 2);
   user.toggle(perso->lvwMartialTechnic, "Crochet");
   select(LutteOffensive);
   step(1);
-  EXPECT_EQ(state(), "2 0 1 0 0 0 | 7 | 1 | Clé Crochet");  // the same technique, another record
-  enter(frmPersonnage::EtatCivil);
-  enter(frmPersonnage::ArtsMartiaux);
+  EXPECT_EQ(state(), "2 0 1 0 0 0 | 7 | 1 | Clé Crochet") << "the same technique, another record";
   select(BoxeOffensive);
   EXPECT_EQ(state(), "2 0 1 0 0 0 | 7 | 1 | *Crochet Direct Uppercut");
   EXPECT_FALSE(data.colMartialArt(1)->colMartialTechnic(1)->bSelected);
-  frmPersonnage* other = open();
-  EXPECT_FALSE(other->colPersoArt(1)->colMartialTechnic(1)->bSelected);
-}
-
-TEST_F(MartialArts, AnotherProfileTakesAllBack) {
-  step(1, 2);
-  user.toggle(perso->lvwMartialTechnic, "Crochet");
   enter(frmPersonnage::EtatCivil);
   user.pick(perso->cmbProfil, "Patrouilleur");
   enter(frmPersonnage::ArtsMartiaux);
   EXPECT_EQ(state(), "0 0 0 0 0 0 | 10 | 0 | Crochet Direct Uppercut");
-}
-
-TEST_F(MartialArts, AnEmptyPoolIsSilent) {
-  select(LutteDefensive);
-  step(1, 12);
-  EXPECT_EQ(state(), "0 0 0 10 0 0 | 0 | 0 |");
-  EXPECT_EQ(told(), "Lutte, description.");
 }
 
 TEST_F(MartialArts, RowsThatNobodyBuiltAreRefusedWithTheirMessages) {
@@ -128,14 +85,22 @@ TEST_F(MartialArts, RowsThatNobodyBuiltAreRefusedWithTheirMessages) {
             "16|Tessaly|Error : Values for 2 Martial technic types not found.\n");
 }
 
-TEST_F(MartialArts, WithoutAnyArtTheTabIsEmptyAndTheArrowsAnswer) {
-  data.colMartialArt = {};
-  frmPersonnage* empty = open();
-  user.pick(empty->SSTabPerso, frmPersonnage::ArtsMartiaux);
-  EXPECT_EQ(empty->txtMartialTechnicRest.Text() + empty->txtAllDescro.Text(), "");
-  user.click(empty->cmdMartialArtModif(1));
-  EXPECT_EQ(empty->txtAllDescro.Text(), "!!! Pas d'art martial sélectionné !!!");
-  EXPECT_EQ(boxes(), "");
+TEST(MartialRestrict, TheSideOfTheLargerTermLeadsByFullGroups) {
+  struct Rule {
+    std::int16_t RO, RD;
+    std::vector<std::pair<std::int16_t, std::int16_t>> allowed, refused;
+  };
+  for (const auto& [RO, RD, allowed, refused] : std::vector<Rule>{
+           {2, 1, {{3, 1}, {4, 2}}, {{1, 1}, {3, 2}}},
+           {1, 2, {{0, 5}, {1, 2}}, {{1, 1}, {2, 3}}},
+           {1, 1, {{1, 0}, {3, 3}}, {{0, 1}}},
+           {3, 2, {{0, 1}, {3, 3}}, {{0, 2}, {3, 4}}},
+       }) {
+    for (const auto& [iO, iD] : allowed)
+      EXPECT_TRUE(restrictionAllows(RO, RD, iO, iD)) << RO << ':' << RD << " with " << iO << ',' << iD;
+    for (const auto& [iO, iD] : refused)
+      EXPECT_FALSE(restrictionAllows(RO, RD, iO, iD)) << RO << ':' << RD << " with " << iO << ',' << iD;
+  }
 }
 
 }  // namespace
