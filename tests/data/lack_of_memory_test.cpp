@@ -1,21 +1,37 @@
+#include <cstdlib>
+#include <limits>
+#include <new>
+
 #include "data/return_marker.h"
 #include "tests/data/load_fixture.h"
-#include "tests/data/refused_memory.h"
+
+namespace {
+
+constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+std::size_t largestPiece = unlimited;  // the first one above is refused, once
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  const bool refused = size > largestPiece;
+  if (refused) largestPiece = unlimited;
+  void* const memory = refused ? nullptr : std::malloc(size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace orvane::test {
 namespace {
 
-TEST(ReturnMarker, ALackOfMemoryIsToldAndGivesAnEmptyText) {
-  LoggedDialogs dialogs;
+TEST_F(LoadData, ALackOfMemoryIsToldWhereverItComes) {
   const std::string text = "a[return]" + std::string(50000, 'b') + "[return]c";
-  refuseMemoryAbove(40000);
+  largestPiece = 40000;
   EXPECT_EQ(prcReturnToCrLf(text, dialogs), "");
   EXPECT_EQ(dialogs.log, (Log{"16|Tessaly|Erreur durant la lecture du texte " + text.substr(9)}));
-}
-
-TEST_F(LoadData, ALackOfMemoryEndsTheReading) {
-  put("ethnie", "\nA;1\n" + std::string(50000, 'b') + ";1\n");
-  refuseMemoryAbove(40000);
+  put("ethnie", "\nA;1\n" + text + ";1\n");
+  largestPiece = 40000;
   EXPECT_EQ(load(), (Log{"0|Tessaly|error : mémoire insuffisante pour lire les fichiers de données."}));
 }
 
