@@ -91,6 +91,14 @@ QStyleOptionTitleBar withReadableTitle(const QStyleOptionTitleBar& bar) {
 
 }  // namespace
 
+// What is selected can be read.
+void ReadableStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  for (const auto group : {QPalette::Active, QPalette::Inactive})
+    palette.setColor(group, QPalette::Highlight,
+                     readable(palette.color(group, QPalette::Highlight), palette.color(group, QPalette::HighlightedText)));
+}
+
 int ReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   const int usual = QProxyStyle::pixelMetric(metric, option, widget);
   return metric == PM_FocusFrameHMargin ? usual + sideAir : usual;

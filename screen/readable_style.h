@@ -8,6 +8,8 @@ namespace orvane {
 // where the palette leaves them none. Nothing of it changes what a widget does.
 class ReadableStyle final : public QProxyStyle {
  public:
+  using QProxyStyle::polish;
+  void polish(QPalette& palette) override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override;

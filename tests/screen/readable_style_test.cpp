@@ -73,6 +73,16 @@ TEST_F(ReadableEdges, BoxesStandOutOnPalettesThatGiveThemNoEdge) {
   });
 }
 
+TEST_F(ReadableEdges, WhatIsSelectedCanBeRead) {
+  const auto check = [this](const std::string& name) {
+    const QPalette palette = find<QTreeWidget>(*character, "lvwSkillGen").palette();
+    EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), readableContrast)
+        << name;
+  };
+  check("the style's own palette");
+  onEach([&](const Theme& theme) { check(theme.name.toStdString()); });
+}
+
 TEST_F(ReadableEdges, RowsHaveAir) {
   auto& tree = find<QTreeWidget>(*character, "lvwSkillGen");
   const QRect row = tree.visualItemRect(tree.topLevelItem(0));
