@@ -95,8 +95,9 @@ QStyleOptionTitleBar withReadableTitle(const QStyleOptionTitleBar& bar) {
 void ReadableStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
   for (const auto group : {QPalette::Active, QPalette::Inactive})
-    palette.setColor(group, QPalette::Highlight,
-                     readable(palette.color(group, QPalette::Highlight), palette.color(group, QPalette::HighlightedText)));
+    palette.setColor(
+        group, QPalette::Highlight,
+        readable(palette.color(group, QPalette::Highlight), palette.color(group, QPalette::HighlightedText)));
 }
 
 int ReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

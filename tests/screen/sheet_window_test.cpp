@@ -35,6 +35,10 @@ TEST_F(SheetWindows, ShowsThePicturePixelForPixel) {
   EXPECT_EQ(shown, image(sheet->pctRecto.Image()).convertToFormat(QImage::Format_RGB32));
 }
 
+TEST_F(SheetWindows, OpensWithTheKeyboardAtItsFirstButton) {
+  EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), "optFeuille_0");
+}
+
 TEST_F(SheetWindows, TheWheelAndThePageKeysScroll) {
   ASSERT_GT(sheet->VScroll.Max(), 2);
   QWidget& pane = *windows.childOf(*sheet)->widget();
