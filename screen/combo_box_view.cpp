@@ -27,8 +27,10 @@ ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
 }
 
 // Who rolls the page with the pointer above a box does not mean to pick another entry.
-bool ComboBoxView::wheelWithoutFocus(const QEvent& event) const {
-  return event.type() == QEvent::Wheel && !combo_.hasFocus();
+bool ComboBoxView::wheelWithoutFocus(QEvent& event) const {
+  if (event.type() != QEvent::Wheel || combo_.hasFocus()) return false;
+  event.ignore();  // the page below rolls
+  return true;
 }
 
 bool ComboBoxView::entriesDiffer() const {

@@ -4,9 +4,11 @@
 #include <utility>
 
 #include <QFocusEvent>
+#include <QScopedValueRollback>
 
 #include "screen/make_view.h"
 #include "screen/qt_text.h"
+#include "surface/desktop.h"
 
 namespace orvane {
 
@@ -57,9 +59,11 @@ void FormView::schedule(View& view) {
 void FormView::flush() {
   flushPosted_ = false;
   if (detached_) return;
-  syncing_ = true;
-  for (auto* view : std::exchange(dirty_, {})) view->sync();
-  syncing_ = false;
+  const QScopedValueRollback syncing(syncing_, true);
+  // Called by the event loop, through which nothing may be thrown.
+  form_->desktop().perform([this] {
+    for (auto* view : std::exchange(dirty_, {})) view->sync();
+  });
 }
 
 void FormView::syncAll() {

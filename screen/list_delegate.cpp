@@ -1,5 +1,6 @@
 #include "screen/list_delegate.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "screen/readable_colours.h"
@@ -21,6 +22,18 @@ void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   QStyledItemDelegate::initStyleOption(option, index);
   const QVariant colour = index.data(cellColourRole);
   if (colour.isValid()) colourText(option->palette, static_cast<Colour>(colour.toUInt()));
+}
+
+bool ListDelegate::eventFilter(QObject* editor, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (auto* widget = qobject_cast<QWidget*>(editor); widget && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
+      emit commitData(widget);
+      emit closeEditor(widget, NoHint);
+      return true;
+    }
+  }
+  return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 void ListDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const {

@@ -19,6 +19,8 @@ class ListDelegate final : public QStyledItemDelegate {
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
  protected:
+  // Tab ends an edit like Enter; Qt would open the next row's name, whether it may be edited or not.
+  bool eventFilter(QObject* editor, QEvent* event) override;
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:

@@ -11,6 +11,7 @@
 
 #include "screen/measures.h"
 #include "screen/qt_text.h"
+#include "surface/desktop.h"
 
 namespace orvane {
 
@@ -156,6 +157,8 @@ void ListViewView::showSelection() {
 bool ListViewView::viewportEvent(QEvent& event) {
   if (event.type() == QEvent::Resize && list_.SelectedItem())
     tree_.scrollToItem(tree_.topLevelItem(list_.SelectedItem()->Index() - 1));
+  // A drag would walk through the rows and click each on its way.
+  if (event.type() == QEvent::MouseMove) return (static_cast<QMouseEvent&>(event).buttons() & Qt::LeftButton) != 0;
   const bool twice = event.type() == QEvent::MouseButtonDblClick;
   if (event.type() != QEvent::MouseButtonPress && !twice) return false;
   const auto& mouse = static_cast<QMouseEvent&>(event);
@@ -214,12 +217,18 @@ void ListViewView::toggle(QTreeWidgetItem* item) {
 }
 
 void ListViewView::beginEdit() {
-  if (edited_) return;
+  if (edited_ || !canBeReached()) return;
   bool allowed = false;
   perform([&] { allowed = list_.beginEdit(); });
   if (!allowed || isDetached()) return;
   edited_ = list_.SelectedItem();
   tree_.editItem(tree_.topLevelItem(edited_->Index() - 1), 0);
+}
+
+// The second click of a slow pair counts later, when another tab or a dialog may have come up.
+bool ListViewView::canBeReached() const {
+  const Form* modal = list_.form().desktop().modal();
+  return !list_.unreachable() && (!modal || modal == &list_.form());
 }
 
 void ListViewView::endEdit(const QString& text) {

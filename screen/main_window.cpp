@@ -23,12 +23,14 @@ QRect windowPlace(const frmMain::Placement& placement) {
   return QRect(pixels(placement.Left), pixels(placement.Top), pixels(placement.Width), pixels(placement.Height));
 }
 
-// A place whose title bar can be reached on one of the screens of today.
+// A place whose title bar can be reached on one of the screens of today, no larger than that screen.
 QRect onSomeScreen(QRect place) {
   const QRect grip(place.left(), place.top(), std::max(place.width(), 1), 20);
   for (const auto* screen : QGuiApplication::screens()) {
     const QRect seen = screen->availableGeometry().intersected(grip);
-    if (seen.width() >= std::min(100, grip.width()) && seen.height() > 0) return place;
+    if (seen.width() < std::min(100, grip.width()) || seen.height() < grip.height()) continue;
+    place.setSize(place.size().boundedTo(screen->availableGeometry().size()));
+    return place;
   }
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
   place.setSize(place.size().boundedTo(room.size()));

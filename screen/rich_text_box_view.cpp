@@ -1,5 +1,7 @@
 #include "screen/rich_text_box_view.h"
 
+#include <utility>
+
 #include "screen/qt_text.h"
 #include "screen/rich_text_view.h"
 #include "surface/failure.h"
@@ -19,6 +21,11 @@ RichTextBoxView::RichTextBoxView(RichTextBox& box, QTextBrowser& browser, FormVi
 }
 
 void RichTextBoxView::show() {
+  const std::tuple now(box_.TextRTF(), box_.Text(), browser_.palette().cacheKey());
+  if (now != std::exchange(shown_, now)) showText();
+}
+
+void RichTextBoxView::showText() {
   const QSignalBlocker silent(browser_);
   if (box_.TextRTF().empty()) return browser_.setPlainText(shownLines(box_.Text()));
   try {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <tuple>
+
 #include <QTextBrowser>
 
 #include "screen/view.h"
@@ -14,8 +17,12 @@ class RichTextBoxView final : public View {
  private:
   void show() override;
 
+  void showText();
+
   RichTextBox& box_;
   QTextBrowser& browser_;
+  // What is shown: text of either kind and palette. Showing it again would take the reader back to the start.
+  std::tuple<std::string, std::string, qint64> shown_;
 };
 
 }  // namespace orvane

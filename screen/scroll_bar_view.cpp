@@ -15,6 +15,7 @@ namespace {
 // What a page of the keyboard and a notch of the wheel move; the bar itself moves by one.
 constexpr int pageSteps = 10;
 constexpr int wheelSteps = 2;
+constexpr int notch = 120;  // eighths of a degree
 
 }  // namespace
 
@@ -45,7 +46,11 @@ bool ScrollBarView::rolled(QEvent& event) {
     const auto turn = static_cast<QWheelEvent&>(event).angleDelta();
     const int delta = bar_.orientation() == Qt::Vertical ? turn.y() : turn.x();
     if (delta == 0) return false;
-    scrollTo(scroll_.Value() + (delta < 0 ? wheelSteps : -wheelSteps));
+    // A touchpad sends a notch in many small turns.
+    turned_ += delta;
+    const int steps = turned_ * wheelSteps / notch;
+    turned_ -= steps * notch / wheelSteps;
+    scrollTo(scroll_.Value() - steps);
     return true;
   }
   if (event.type() != QEvent::KeyPress || bar_.orientation() != Qt::Vertical) return false;

@@ -18,6 +18,8 @@ class ScrollBarView final : public View {
 
   ScrollBar& scroll_;
   QScrollBar& bar_;
+  // Of a turn of the wheel, what is not yet a step; eighths of a degree.
+  int turned_ = 0;
 };
 
 }  // namespace orvane

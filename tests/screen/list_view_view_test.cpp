@@ -101,6 +101,16 @@ TEST_F(ListViewViews, NamesAreEditedInPlace) {
   EXPECT_FALSE(editor());
 }
 
+TEST_F(ListViewViews, TabEndsAnEditAndOpensNoOther) {
+  clickAt(nameOf(1));
+  QTest::keyClick(&tree, Qt::Key_F2);
+  ASSERT_TRUE(editor());
+  QTest::keyClicks(editor(), "Luth");
+  EXPECT_EQ(eventsAfter([&] { QTest::keyClick(editor(), Qt::Key_Tab); }), "after Luth");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_FALSE(editor());
+}
+
 TEST_F(ListViewViews, ASecondSlowClickEditsToo) {
   clickAt(nameOf(0));  // the selected row, but this click only brings the focus
   QTest::qWait(QApplication::doubleClickInterval() + 50);
