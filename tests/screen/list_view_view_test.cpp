@@ -103,6 +103,7 @@ TEST_F(ListViewViews, NamesAreEditedInPlace) {
 
 TEST_F(ListViewViews, TabEndsAnEditAndOpensNoOther) {
   clickAt(nameOf(1));
+  turn();
   QTest::keyClick(&tree, Qt::Key_F2);
   ASSERT_TRUE(editor());
   QTest::keyClicks(editor(), "Luth");
