@@ -60,6 +60,9 @@ MainWindow::MainWindow(frmMain& frame, Acts& acts)
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) { bringIntoSight(focus); });
 }
 
+// What is deleted with it gives up the focus.
+MainWindow::~MainWindow() { disconnect(qApp, nullptr, this, nullptr); }
+
 namespace {
 
 void scrollBy(QScrollBar& bar, int before, int behind) {

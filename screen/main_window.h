@@ -12,6 +12,7 @@ namespace orvane {
 class MainWindow final : public QMainWindow {
  public:
   MainWindow(frmMain& frame, Acts& acts);
+  ~MainWindow() override;
 
   QMdiArea& area() { return area_; }
   // At the remembered place, as far as there is a screen for it.

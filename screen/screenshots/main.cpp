@@ -20,6 +20,7 @@ int main(int argc, char* argv[]) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // each picture is the same each time
   orvane::dressUp();
   if (argc < 3) {
     std::fputs("usage: orvane-screenshots FOLDER SCRIPT [THEME...]\n", stderr);
