@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "surface/failure.h"
+#include "surface/text.h"
 #include "surface/world.h"
 
 namespace orvane::test {
@@ -27,21 +27,37 @@ class NoSettings : public Settings {
   void SaveSetting(const std::string&, const std::string&, const std::string&, const std::string&) override {}
 };
 
-// Every letter is 100 twips wide, every line 200 high.
+// Every character is 5 times its size in points wide, every line 20 times that high: 50 and 200 twips at 10 points.
+// As a bitmap it gives the name of its picture and all that was printed on it.
 class BlankCanvas : public Canvas {
  public:
-  float width() const override { return 9900; }
-  float height() const override { return 15420; }
-  void setFont(const std::string&, float) override {}
-  float TextWidth(std::string_view text) const override { return 100.0F * static_cast<float>(text.size()); }
-  float TextHeight(std::string_view) const override { return 200; }
-  void print(std::string_view, float, float) override {}
-  std::string bitmap() const override { return "BM"; }
+  BlankCanvas(std::string_view name, float width, float height) : bytes_(name), width_(width), height_(height) {}
+
+  float width() const override { return width_; }
+  float height() const override { return height_; }
+  void setFont(const std::string&, float points) override { points_ = points; }
+  float TextWidth(std::string_view text) const override {
+    return 5 * points_ * static_cast<float>(characterCount(text));
+  }
+  float TextHeight(std::string_view) const override { return 20 * points_; }
+  void print(std::string_view text, float, float) override { bytes_ += "|" + std::string(text); }
+  std::string bitmap() const override { return bytes_; }
+
+ private:
+  std::string bytes_;
+  float width_;
+  float height_;
+  float points_ = 10;
 };
 
 class BlankPictures : public Pictures {
  public:
-  std::unique_ptr<Canvas> open(std::string_view) override { return std::make_unique<BlankCanvas>(); }
+  float width = 9900;  // twips
+  float height = 15420;
+
+  std::unique_ptr<Canvas> open(std::string_view name) override {
+    return std::make_unique<BlankCanvas>(name, width, height);
+  }
 };
 
 }  // namespace orvane::test
