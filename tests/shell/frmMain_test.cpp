@@ -1,14 +1,16 @@
 #include "shell/frmMain.h"
 
+#include <array>
 #include <gtest/gtest.h>
+#include <map>
 
 #include "editor/frmPersonnage.h"
 #include "shell/FrmReadMe.h"
-#include "shell/frmSplash.h"
 #include "shell/main_procedure.h"
 #include "surface/user.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/fakes.h"
 #include "tests/support/game_files.h"
+#include "tests/support/logged_dialogs.h"
 #include "tests/support/windows_1252.h"
 
 namespace orvane::test {
@@ -16,13 +18,27 @@ namespace {
 
 using Log = std::vector<std::string>;
 
+// By "APPLICATION/SECTION/KEY".
+class MemorySettings : public Settings {
+ public:
+  std::map<std::string, std::string> values;
+
+  std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
+                         const std::string& defaultValue) override {
+    const auto found = values.find(application + "/" + section + "/" + key);
+    return found == values.end() ? defaultValue : found->second;
+  }
+  void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
+                   const std::string& value) override {
+    values[application + "/" + section + "/" + key] = value;
+  }
+};
+
 class FrameTest : public ::testing::Test {
  protected:
-  FrameTest() { world.files = gameFiles(); }
-
   void start() {
     run.Main();
-    world.dialogs.log.clear();
+    dialogs.log.clear();
   }
   frmMain& frame() { return *run.mainWindow(); }
   Globals& globals() { return run.globals(); }
@@ -31,27 +47,25 @@ class FrameTest : public ::testing::Test {
     user.click(frame().mnuFileNewPJ);
     return dynamic_cast<frmPersonnage*>(run.desktop().activeChild());
   }
-  std::size_t openForms() { return run.desktop().Forms().size(); }
+  FrmReadMe& openHelp() {
+    user.click(frame().mnuHelpContents);
+    return dynamic_cast<FrmReadMe&>(*run.desktop().activeChild());
+  }
 
-  ShellWorld world;
-  orvane::Run run{world.world()};
+  LoggedDialogs dialogs;
+  FakeClock clock;
+  MemorySettings settings;
+  MemoryFiles files = gameFiles();
+  BlankPictures pictures;
+  orvane::Run run{World{dialogs, clock, settings, files, pictures}};
   User user{run.desktop()};
 };
-
-TEST_F(FrameTest, EachNewWindowIsTheCurrentOneAndHasItsOwnState) {
-  start();
-  auto* first = newCharacter();
-  auto* second = newCharacter();
-  ASSERT_TRUE(first && second && first != second);
-  EXPECT_EQ(globals().frmCurrentPerso, second);
-  user.type(second->txtAge, "31");
-  EXPECT_EQ(first->txtAge.Text(), "");
-}
 
 TEST_F(FrameTest, TheCurrentWindowIsTheActiveOneAfterAnotherCloses) {
   start();
   auto* first = newCharacter();
   auto* second = newCharacter();
+  EXPECT_EQ(globals().frmCurrentPerso, second);
   auto* third = newCharacter();
   user.activate(*first);
   EXPECT_EQ(globals().frmCurrentPerso, first);
@@ -63,56 +77,32 @@ TEST_F(FrameTest, TheCurrentWindowIsTheActiveOneAfterAnotherCloses) {
   EXPECT_EQ(globals().frmCurrentPerso, nullptr);
 }
 
-// The code for the vehicle may not stand twice.
-class FaultyProfileTest : public FrameTest {
- protected:
-  FaultyProfileTest() {
-    world.files.contents["./profil.txt"] = ansi(
-        "Nom;Assermenté;Description;Clefs;\r\nAssermenté;False;Socle.;14;\r\nDouble;True;Faux.;101;101;\r\n"
-        "Bon;True;Juste.;14;\r\n");
+TEST_F(FrameTest, OpensNoWindowThatCouldNotBeFilled) {
+  const std::string impossible = "16|Tessaly|Pas de nouveau personnage possible : ";
+  const std::string base = "Nom;\r\nAssermenté;False;Socle.;14;\r\n";
+  // The first profile has two codes for the vehicle: its window closes itself.
+  const std::string faulty = base + "Double;True;Faux.;101;101;\r\nBon;True;Juste.;14;\r\n";
+  for (const auto& [path, text, box] : std::vector<std::array<std::string, 3>>{
+           {"./profil.txt", faulty, "16|Tessaly|Code 101 plusieurs fois dans le profil !"},
+           {"./profil.txt", base, impossible + "aucun profil utilisable n'a été lu dans profil.txt."},
+           {"./ethnie.txt", "Nom;\r\n", impossible + "aucune ethnie n'a été lue dans ethnie.txt."}}) {
+    files = gameFiles();
+    files.contents[path] = ansi(text);
+    orvane::Run other{World{dialogs, clock, settings, files, pictures}};
+    other.Main();
+    dialogs.log.clear();
+    User(other.desktop()).click(other.mainWindow()->mnuFileNewPJ);
+    EXPECT_EQ(dialogs.log, Log{box});
+    EXPECT_EQ(other.globals().frmCurrentPerso, nullptr);
+    EXPECT_EQ(other.desktop().Forms().size(), 1U);
   }
-};
-
-TEST_F(FaultyProfileTest, AWindowThatClosesItselfLeavesTheCurrentOne) {
-  start();
-  EXPECT_EQ(newCharacter(), nullptr);
-  EXPECT_EQ(globals().frmCurrentPerso, nullptr);
-  EXPECT_EQ(openForms(), 1U);
-  EXPECT_EQ(world.dialogs.log, Log{"16|Tessaly|Code 101 plusieurs fois dans le profil !"});
-}
-
-TEST_F(FrameTest, OpensNoWindowWithoutAUsableProfile) {
-  world.files.contents["./profil.txt"] = ansi("Nom;\r\nAssermenté;False;Socle.;14;\r\n");
-  start();
-  EXPECT_EQ(newCharacter(), nullptr);
-  EXPECT_EQ(world.dialogs.log, Log{"16|Tessaly|Pas de nouveau personnage possible : aucun profil utilisable n'a été "
-                                   "lu dans profil.txt."});
-  EXPECT_EQ(globals().frmCurrentPerso, nullptr);
-}
-
-TEST_F(FrameTest, OpensNoWindowWithoutAnEthnicGroup) {
-  world.files.contents["./ethnie.txt"] = "Nom;\r\n";
-  start();
-  EXPECT_EQ(newCharacter(), nullptr);
-  EXPECT_EQ(world.dialogs.log,
-            Log{"16|Tessaly|Pas de nouveau personnage possible : aucune ethnie n'a été lue dans ethnie.txt."});
-}
-
-TEST_F(FrameTest, ExitClosesEverythingWithoutAQuestion) {
-  start();
-  newCharacter();
-  newCharacter();
-  user.click(frame().mnuFileExit);
-  EXPECT_EQ(openForms(), 0U);
-  EXPECT_EQ(run.mainWindow(), nullptr);
-  EXPECT_EQ(world.dialogs.log, Log{});
 }
 
 TEST_F(FrameTest, ReadsThePlacementAndTakesWhatIsNoNumberForAbsent) {
-  world.settings.values = {{"Tessaly/Settings/MainLeft", "250.5"},
-                           {"Tessaly/Settings/MainTop", "abc"},
-                           {"Tessaly/Settings/MainWidth", ""},
-                           {"Tessaly/Settings/MainHeight", "1e300"}};
+  settings.values = {{"Tessaly/Settings/MainLeft", "250.5"},
+                     {"Tessaly/Settings/MainTop", "abc"},
+                     {"Tessaly/Settings/MainWidth", ""},
+                     {"Tessaly/Settings/MainHeight", "1e300"}};
   start();
   const auto& place = frame().placement();
   EXPECT_EQ(place.Left, 250.5F);
@@ -130,14 +120,14 @@ TEST_F(FrameTest, SavesThePlacementInShortestPlainTexts) {
                                                     {"Tessaly/Settings/MainTop", "0"},
                                                     {"Tessaly/Settings/MainWidth", "100000"},
                                                     {"Tessaly/Settings/MainHeight", "6500.5"}};
-  EXPECT_EQ(world.settings.values, saved);
+  EXPECT_EQ(settings.values, saved);
 }
 
 TEST_F(FrameTest, AMinimizedFrameSavesNothing) {
   start();
   frame().setWindowState(1);
   user.close(frame());
-  EXPECT_TRUE(world.settings.values.empty());
+  EXPECT_TRUE(settings.values.empty());
 }
 
 TEST_F(FrameTest, WindowCommandsArrange) {
@@ -154,59 +144,33 @@ TEST_F(FrameTest, WindowCommandsArrange) {
                                                      Arrangement::TileVertically, Arrangement::Icons}));
 }
 
-TEST_F(FrameTest, AboutIsModalAndHasAButton) {
+TEST_F(FrameTest, ContentsAndAideBringUpTheSameWindow) {
   start();
-  std::string seen;
-  world.dialogs.modal = [&](Form& form) {
-    auto& about = dynamic_cast<frmSplash&>(form);
-    seen = about.lblVersion.Caption();
-    EXPECT_THROW(user.click(frame().mnuFileNewPJ), Refusal);
-    user.click(about.cmdClose);
-    EXPECT_FALSE(about.isLoaded());
-  };
-  user.click(frame().mnuHelpAbout);
-  EXPECT_EQ(seen, "Version 1.1.0");
-  EXPECT_EQ(openForms(), 1U);
-}
-
-class HelpTest : public FrameTest {
- protected:
-  FrmReadMe& open() {
-    user.click(frame().mnuHelpContents);
-    return dynamic_cast<FrmReadMe&>(*run.desktop().activeChild());
-  }
-};
-
-TEST_F(HelpTest, ContentsAndAideBringUpTheSameWindow) {
-  start();
-  FrmReadMe& help = open();
-  EXPECT_EQ(help.rtbReadMe.TextRTF(), world.files.contents["ReadMe.rtf"]);
-  auto* character = newCharacter();
-  user.click(character->cmdHelp);
+  FrmReadMe& help = openHelp();
+  EXPECT_EQ(help.rtbReadMe.TextRTF(), files.contents["ReadMe.rtf"]);
+  user.click(newCharacter()->cmdHelp);
   EXPECT_EQ(run.desktop().activeChild(), &help);
-  EXPECT_EQ(openForms(), 3U);
+  EXPECT_EQ(run.desktop().Forms().size(), 3U);
   user.click(help.cmdClose);
-  EXPECT_EQ(openForms(), 2U);
-  EXPECT_NE(open().rtbReadMe.TextRTF(), "");
+  EXPECT_NE(openHelp().rtbReadMe.TextRTF(), "") << "a fresh one";
 }
 
-TEST_F(HelpTest, SaysThatTheFileIsMissing) {
+TEST_F(FrameTest, HelpSaysWhyItCannotBeShown) {
   start();
-  world.files.contents.erase("ReadMe.rtf");
-  EXPECT_EQ(open().rtbReadMe.Text(), "Fichier ReadMe.rtf manquant.");
-  EXPECT_EQ(world.dialogs.log, Log{});
-}
-
-TEST_F(HelpTest, SaysWhyTheFileCannotBeShown) {
-  start();
-  world.files.broken.insert("ReadMe.rtf");
-  FrmReadMe& help = open();
-  EXPECT_EQ(help.rtbReadMe.Text(), "Fichier ReadMe.rtf illisible : Accès refusé : ReadMe.rtf.");
-  user.click(help.cmdClose);
-  world.files.broken.clear();
-  world.files.contents["ReadMe.rtf"] = "PK no rich text";
-  EXPECT_EQ(open().rtbReadMe.Text(), "Fichier ReadMe.rtf illisible : Ce n'est pas un fichier de texte enrichi (RTF).");
-  EXPECT_EQ(run.desktop().activeChild()->Caption(), "Help File");
+  const auto shownText = [this] {
+    FrmReadMe& help = openHelp();
+    const std::string text = help.rtbReadMe.Text();
+    user.click(help.cmdClose);
+    return text;
+  };
+  files.broken.insert("ReadMe.rtf");
+  EXPECT_EQ(shownText(), "Fichier ReadMe.rtf illisible : Accès refusé : ReadMe.rtf.");
+  files.broken.clear();
+  files.contents["ReadMe.rtf"] = "PK no rich text";
+  EXPECT_EQ(shownText(), "Fichier ReadMe.rtf illisible : Ce n'est pas un fichier de texte enrichi (RTF).");
+  files.contents.erase("ReadMe.rtf");
+  EXPECT_EQ(shownText(), "Fichier ReadMe.rtf manquant.");
+  EXPECT_EQ(dialogs.log, Log{});
 }
 
 }  // namespace
