@@ -14,11 +14,8 @@ namespace orvane::test {
 // The player on the game, with files in memory. Scripts go to standard input or to files of their own.
 class PlayFixture : public ::testing::Test {
  protected:
-  int play(const std::string& script, std::vector<std::string> arguments = {}) {
+  int play(const std::string& script, const std::vector<std::string>& arguments = {}) {
     std::istringstream in(script);
-    return playFrom(in, std::move(arguments));
-  }
-  int playFrom(std::istream& in, std::vector<std::string> arguments) {
     out.str("");
     err.str("");
     return playScripts(arguments, in, out, err, {files, pictures, clock});

@@ -32,31 +32,21 @@ TEST_F(CommandLineTest, PlaysSeveralScriptsInOneRun) {
             "txtAge.Text \"32\"\n");
 }
 
-TEST_F(CommandLineTest, NamesFileAndLineOfARefusal) {
-  EXPECT_EQ(play("\nclick txtAge\n"), 1);
-  EXPECT_EQ(transcript(), "refused -:2: Aucune fenêtre n'est ouverte.\n");
-}
-
-TEST_F(CommandLineTest, TheFirstRefusalEndsTheWholeRun) {
+TEST_F(CommandLineTest, TheFirstRefusalEndsTheWholeRunUnlessItKeepsGoing) {
+  const std::string refusal = "refused refused.script:1: Aucune fenêtre n'est ouverte.\n";
   EXPECT_EQ(play("", {"refused.script", "one.script"}), 1);
-  EXPECT_EQ(transcript(), "refused refused.script:1: Aucune fenêtre n'est ouverte.\n");
-}
-
-TEST_F(CommandLineTest, KeepGoingPlaysOnAndStillReportsIt) {
+  EXPECT_EQ(transcript(), refusal);
   EXPECT_EQ(play("", {"refused.script", "--keep-going", "one.script"}), 1);
-  EXPECT_EQ(transcript(), "refused refused.script:1: Aucune fenêtre n'est ouverte.\ntxtAge.Text \"31\"\n");
+  EXPECT_EQ(transcript(), refusal + "txtAge.Text \"31\"\n");
 }
 
-TEST_F(CommandLineTest, PlaysNothingWhenOneScriptIsWrong) {
-  EXPECT_EQ(play("", {"one.script", "wrong.script"}), 2);
-  EXPECT_EQ(transcript(), "");
-  EXPECT_EQ(err.str(), "wrong.script:2: acte inconnu « hop »\n");
-}
-
-TEST_F(CommandLineTest, PlaysNothingWhenAScriptCannotBeRead) {
-  EXPECT_EQ(play("", {"one.script", "none.script"}), 2);
-  EXPECT_EQ(transcript(), "");
-  EXPECT_EQ(err.str(), "none.script: Fichier introuvable : none.script.\n");
+TEST_F(CommandLineTest, PlaysNothingWhenOneScriptIsWrongOrCannotBeRead) {
+  for (const auto& [wrong, error] : {std::pair{"wrong.script", "wrong.script:2: acte inconnu « hop »\n"},
+                                     std::pair{"none.script", "none.script: Fichier introuvable : none.script.\n"}}) {
+    EXPECT_EQ(play("", {"one.script", wrong}), 2);
+    EXPECT_EQ(transcript(), "");
+    EXPECT_EQ(err.str(), error);
+  }
 }
 
 TEST_F(CommandLineTest, KnowsNoOtherOption) {
@@ -71,14 +61,6 @@ TEST_F(CommandLineTest, SaysThatTheTranscriptCouldNotBeWritten) {
   full.setstate(std::ios::badbit);
   EXPECT_EQ(playScripts({}, in, full, err, {files, pictures, clock}), 1);
   EXPECT_EQ(err.str(), "orvane-batch: la transcription n'a pas pu être écrite\n");
-}
-
-TEST_F(CommandLineTest, ReportsWhatTheStartReports) {
-  files.contents.erase("./grade.txt");
-  EXPECT_EQ(play("answer Cancel\nwindows\n"), 0);
-  EXPECT_EQ(transcript(),
-            "box 16 \"Tessaly\" \"Fichier grade.txt manquant.\" OK\n"
-            "window 0 frmMain \"Orvane\"\n");
 }
 
 }  // namespace

@@ -8,17 +8,14 @@
 #include <sstream>
 #include <unistd.h>
 
+#include "tests/support/game_files.h"
+
 namespace orvane::test {
 namespace {
 
 namespace fs = std::filesystem;
 
 const fs::path source = ORVANE_SOURCE_DIR;
-
-std::string contents(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 bool isDataFile(const fs::path& path) {
   return path.extension() == ".rtf" || (path.extension() == ".txt" && path.filename() != "expected.txt");
@@ -44,19 +41,6 @@ void addScripts(std::vector<GoldenScript>& found, const fs::path& folder, const 
   }
 }
 
-std::string firstDifference(const std::string& expected, const std::string& text) {
-  std::istringstream expectedLines(expected);
-  std::istringstream lines(text);
-  for (int number = 1;; ++number) {
-    std::string expectedLine;
-    std::string line;
-    if (!std::getline(expectedLines, expectedLine)) expectedLine = "(end)";
-    if (!std::getline(lines, line)) line = "(end)";
-    if (expectedLine != line || !expectedLines || !lines)
-      return "\nfrom line " + std::to_string(number) + "\nexpected: " + expectedLine + "\nplayed:   " + line;
-  }
-}
-
 }  // namespace
 
 std::vector<GoldenScript> goldenScripts() {
@@ -68,7 +52,7 @@ std::vector<GoldenScript> goldenScripts() {
 }
 
 std::vector<std::string> goldenArguments(const GoldenScript& script) {
-  std::istringstream words(contents(script.script));
+  std::istringstream words(bytesOf(script.script));
   std::string line;
   std::getline(words, line);
   std::vector<std::string> arguments;
@@ -125,8 +109,7 @@ void expectGolden(const GoldenScript& script, const std::string& text) {
     std::ofstream(script.expected, std::ios::binary) << text;
     return;
   }
-  if (contents(script.expected) != text)
-    ADD_FAILURE() << script.script << firstDifference(contents(script.expected), text);
+  EXPECT_EQ(bytesOf(script.expected), text) << script.script;
 }
 
 }  // namespace orvane::test
