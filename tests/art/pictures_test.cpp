@@ -2,21 +2,27 @@
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <QColor>
 #include <QFile>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QImage>
+#include <QPointF>
 #include <QRect>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QXmlStreamReader>
 
 #include "sheet/art/render/rendering.h"
-#include "tests/art/boxes.h"
-#include "tests/art/labels.h"
+#include "sheet/frmFeuille.h"
+#include "tests/canvas/gui.h"
+#include "tests/support/run_fixture.h"
 
 using namespace orvane;
 
@@ -24,19 +30,7 @@ namespace {
 
 const QString kFolder = QStringLiteral(ORVANE_SOURCE_DIR "/sheet/art/");
 
-// Letters are drawn with the fonts of the application object.
-class Application : public testing::Environment {
- public:
-  void SetUp() override { application_ = std::make_unique<QGuiApplication>(count_, arguments_); }
-  void TearDown() override { application_.reset(); }
-
- private:
-  int count_ = 1;
-  char name_[9] = "pictures";
-  char* arguments_[2] = {name_, nullptr};
-  std::unique_ptr<QGuiApplication> application_;
-};
-const auto* const kApplication = testing::AddGlobalTestEnvironment(new Application);
+const auto* const kGui = testing::AddGlobalTestEnvironment(new test::Gui);
 
 // What a side of the form must be.
 struct Side {
@@ -53,9 +47,23 @@ QString sourceOf(const Side& side) { return kFolder + side.name + ".svg"; }
 
 constexpr int kTwipsPerPixel = 15;
 
-QRect pixelsOf(const FormBox& box) {
-  return {box.left / kTwipsPerPixel, box.top / kTwipsPerPixel, box.width / kTwipsPerPixel, box.height / kTwipsPerPixel};
+QRect pixelsOf(const Shape& box) {
+  const auto pixels = [](float twips) { return static_cast<int>(twips) / kTwipsPerPixel; };
+  return {pixels(box.Left()), pixels(box.Top()), pixels(box.Width()), pixels(box.Height())};
 }
+
+// The boxes that the program prints into.
+class Boxes : public test::RunFixture {
+ protected:
+  std::vector<const Shape*> of(const PictureBox& side) const {
+    std::vector<const Shape*> boxes;
+    for (const auto* control : sheet->controls())
+      if (const auto* box = dynamic_cast<const Shape*>(control); box && box->holder() == &side) boxes.push_back(box);
+    return boxes;
+  }
+
+  std::shared_ptr<frmFeuille> sheet = std::make_shared<frmFeuille>(globals);
+};
 
 // The pixel columns of the rules of the skills, and the rows that they run over: the first and the one behind the last.
 const std::set<int> kRules = {10, 38, 67, 222, 250, 278, 433, 462, 490, 645};
@@ -108,19 +116,16 @@ TEST_P(SideTest, IsGrey) {
     for (int x = 0; x < image.width(); ++x) ASSERT_TRUE(qIsGray(image.pixel(x, y))) << "at " << x << ", " << y;
 }
 
-TEST(Recto, LeavesEveryBoxBlank) {
-  const QImage image(bitmapOf(kRecto));
-  for (const FormBox& box : kRectoBoxes) EXPECT_EQ(firstMark(image, pixelsOf(box)), "") << box.name;
-}
-
 // The boxes of the skills are a little larger than their cells and take in the rules around them.
-TEST(Verso, LeavesEveryBoxBlankButForTheRulesOfTheSkills) {
-  const QImage image(bitmapOf(kVerso));
-  for (const FormBox& box : kVersoBoxes) {
-    const bool ofSkills = box.top / kTwipsPerPixel < kRulesBottom;
-    const std::string mark =
-        ofSkills ? firstMark(image, pixelsOf(box), kRules, kCrossRules) : firstMark(image, pixelsOf(box));
-    EXPECT_EQ(mark, "") << box.name;
+TEST_F(Boxes, AreBlankButForTheRulesOfTheSkills) {
+  const QImage recto(bitmapOf(kRecto));
+  const QImage verso(bitmapOf(kVerso));
+  EXPECT_EQ(of(sheet->pctRecto).size(), 31U);
+  for (const auto* box : of(sheet->pctRecto)) EXPECT_EQ(firstMark(recto, pixelsOf(*box)), "") << box->id();
+  for (const auto* box : of(sheet->pctVerso)) {
+    const bool ofSkills = pixelsOf(*box).top() < kRulesBottom;
+    EXPECT_EQ(ofSkills ? firstMark(verso, pixelsOf(*box), kRules, kCrossRules) : firstMark(verso, pixelsOf(*box)), "")
+        << box->id();
   }
 }
 
@@ -139,9 +144,9 @@ TEST(Verso, RulesTheSkillsAtTheirColumnsAndNowhereElse) {
 }
 
 // Left of the equipment and above the foot there is a picture with many greys, not just a frame.
-TEST(Verso, HasAnIllustrationLeftOfTheEquipment) {
+TEST_F(Boxes, HaveAnIllustrationLeftOfTheEquipment) {
   const QImage image(bitmapOf(kVerso));
-  const QRect equipment = pixelsOf(kVersoBoxes.back());
+  const QRect equipment = pixelsOf(sheet->shpMatos);
   std::set<int> greys;
   int marked = 0;
   const QRect area(20, equipment.top(), 200, equipment.height());
@@ -154,6 +159,25 @@ TEST(Verso, HasAnIllustrationLeftOfTheEquipment) {
   EXPECT_GT(marked, area.width() * area.height() / 2);
 }
 
+// Every text of an SVG source with the place of its baseline; a turned text stands where it was moved to.
+std::multimap<QString, QPointF> textsOf(const QString& source) {
+  static const QRegularExpression moved(QStringLiteral("translate\\(([0-9.]+) ([0-9.]+)\\)"));
+  std::multimap<QString, QPointF> texts;
+  QFile file(source);
+  if (!file.open(QIODevice::ReadOnly)) return texts;
+  QXmlStreamReader reader(&file);
+  while (!reader.atEnd()) {
+    if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != QLatin1String("text")) continue;
+    const auto attributes = reader.attributes();
+    const auto shift = moved.match(attributes.value(QLatin1String("transform")).toString());
+    const QPointF place(attributes.value(QLatin1String("x")).toDouble(),
+                        attributes.value(QLatin1String("y")).toDouble());
+    const QPointF by(shift.captured(1).toDouble(), shift.captured(2).toDouble());
+    texts.emplace(reader.readElementText(), place + by);
+  }
+  return texts;
+}
+
 // A label stands left of its box on the box's line, or above its box.
 bool isNear(const QPointF& label, const QRect& box) {
   const bool beside =
@@ -163,21 +187,34 @@ bool isNear(const QPointF& label, const QRect& box) {
   return beside || above;
 }
 
-template <class Boxes, class Labels>
-void expectLabels(const Side& side, const Boxes& boxes, const Labels& labels) {
-  const auto texts = textsOf(sourceOf(side));
-  for (const FormBox& box : boxes) {
-    const auto label = labels.find(box.name);
-    ASSERT_NE(label, labels.end()) << box.name << " has no label";
-    if (label->second.isEmpty()) continue;
-    const auto [first, last] = texts.equal_range(label->second);
-    EXPECT_TRUE(std::any_of(first, last, [&](const auto& text) { return isNear(text.second, pixelsOf(box)); }))
-        << box.name << " lacks " << label->second.toStdString();
-  }
-}
+// Each box and its label. The skill columns share the heading of the first, and the third language brings its own name.
+const QString kLabels =
+    "shpJoueur: Joueur ou joueuse; shpPerso: Personnage; shpEthnie: Ethnie; shpSexe: Sexe; "
+    "shpTaillePoids: Taille (cm) / Poids (kg); shpYeux: Yeux; shpDistrict: Origine; shpAge: Age; "
+    "shpCheveux: Cheveux; shpProfil: Profil; shpGrade: Grade; shpCaract(0): Corps; shpCaract(1): Sens; "
+    "shpCaract(2): Détermination; shpCaract(3): Adresse; shpCaract(4): Résistance; shpCaract(5): Réflexe; "
+    "shpCaract(6): Intelligence; shpCaract(7): Relation; shpEV: Energie Vitale; shpR: Réaction; "
+    "shpSF: Sang Froid; shpMutaCateg: Catégorie, signe et numéro; shpMutaName: Pouvoir; shpMutaDescro: Pouvoir; "
+    "shpParticulSign: cicatrices, tatouages, implants, manies; shpContact: CONTACTS; shpLangValue(0): Anglais; "
+    "shpLangValue(1): Espagnol; shpValues(0): Niv.; shpNames(0): Compétence; shpMatos: MATÉRIEL; "
+    "shpMartialArt: ARTS MARTIAUX";
 
-TEST(Recto, HasALabelAtEveryBox) { expectLabels(kRecto, kRectoBoxes, kRectoLabels); }
-TEST(Verso, HasALabelAtEveryBox) { expectLabels(kVerso, kVersoBoxes, kVersoLabels); }
+TEST_F(Boxes, HaveTheirLabels) {
+  const QStringList labels = kLabels.split("; ");
+  qsizetype found = 0;
+  for (const auto& [side, picture] : {std::pair{kRecto, &sheet->pctRecto}, std::pair{kVerso, &sheet->pctVerso}}) {
+    const auto texts = textsOf(sourceOf(side));
+    for (const auto* box : of(*picture)) {
+      const QStringList mine = labels.filter(QString::fromStdString(box->id()) + ": ");
+      if (mine.isEmpty()) continue;
+      ++found;
+      const auto [first, last] = texts.equal_range(mine[0].section(": ", 1));
+      EXPECT_TRUE(std::any_of(first, last, [&](const auto& text) { return isNear(text.second, pixelsOf(*box)); }))
+          << "lacks " << mine[0].toStdString();
+    }
+  }
+  EXPECT_EQ(found, labels.size());
+}
 
 // The greatest mean difference of two pictures within a square of ten pixels, in levels of grey: a letter that another
 // version of the font library smooths otherwise stays far below 20, another letter or a moved rule goes above it.
