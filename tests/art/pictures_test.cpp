@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -101,12 +102,9 @@ TEST_P(SideTest, IsAnUncompressedBitmapOf24BitsAt96DotsPerInch) {
   const QByteArray head = file.read(54);
   ASSERT_EQ(head.size(), 54);
   EXPECT_EQ(head.left(2), "BM");
-  EXPECT_EQ(littleEndian(head, 18, 4), static_cast<std::uint32_t>(GetParam().size.width()));
-  EXPECT_EQ(littleEndian(head, 22, 4), static_cast<std::uint32_t>(GetParam().size.height()));
-  EXPECT_EQ(littleEndian(head, 28, 2), 24u) << "bits per pixel";
-  EXPECT_EQ(littleEndian(head, 30, 4), 0u) << "compression";
-  EXPECT_EQ(littleEndian(head, 38, 4), 3780u) << "pixels per metre across";
-  EXPECT_EQ(littleEndian(head, 42, 4), 3780u) << "pixels per metre down";
+  // Offset, size and value: bits per pixel, no compression, pixels per metre.
+  for (const auto& [offset, count, expected] : {std::array{28, 2, 24}, {30, 4, 0}, {38, 4, 3780}, {42, 4, 3780}})
+    EXPECT_EQ(littleEndian(head, offset, count), static_cast<std::uint32_t>(expected)) << offset;
 }
 
 TEST_P(SideTest, IsGrey) {

@@ -17,27 +17,14 @@ namespace fs = std::filesystem;
 
 const fs::path source = ORVANE_SOURCE_DIR;
 
-bool isDataFile(const fs::path& path) {
-  return path.extension() == ".rtf" || (path.extension() == ".txt" && path.filename() != "expected.txt");
-}
-
-bool hasDataFiles(const fs::path& folder) {
-  return std::any_of(fs::directory_iterator(folder), {}, [](const auto& entry) { return isDataFile(entry.path()); });
-}
-
-void addFolderCase(std::vector<GoldenScript>& found, const fs::path& folder) {
-  if (fs::exists(folder / "play.script"))
-    found.push_back({folder.filename(), folder / "play.script", folder / "expected.txt",
-                     hasDataFiles(folder) ? folder : source / "game"});
-}
+const fs::path scripts = source / "tests/scripts";
 
 void addScripts(std::vector<GoldenScript>& found, const fs::path& folder, const fs::path& expected) {
-  if (!fs::exists(folder)) return;
   for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.is_directory()) addFolderCase(found, entry.path());
     if (entry.path().extension() != ".script") continue;
     const std::string name = entry.path().stem();
-    found.push_back({name, entry.path(), expected / (name + ".expected"), source / "game"});
+    const fs::path data = fs::exists(scripts / name) ? scripts / name : source / "game";
+    found.push_back({name, entry.path(), expected / (name + ".expected"), data});
   }
 }
 
@@ -45,8 +32,8 @@ void addScripts(std::vector<GoldenScript>& found, const fs::path& folder, const 
 
 std::vector<GoldenScript> goldenScripts() {
   std::vector<GoldenScript> found;
-  addScripts(found, source / "tests/scripts", source / "tests/scripts");
-  addScripts(found, source / "examples", source / "tests/scripts/examples");
+  addScripts(found, scripts, scripts);
+  addScripts(found, source / "examples", scripts / "examples");
   std::sort(found.begin(), found.end(), [](auto& one, auto& other) { return one.script < other.script; });
   return found;
 }
@@ -70,7 +57,7 @@ ScratchFolder::ScratchFolder(const GoldenScript& script)
   fs::remove_all(folder_);
   fs::create_directories(folder_);
   for (const auto& entry : fs::directory_iterator(script.data))
-    if (isDataFile(entry.path())) fs::copy_file(entry.path(), folder_ / entry.path().filename());
+    if (entry.is_regular_file()) fs::copy_file(entry.path(), folder_ / entry.path().filename());
   fs::copy_file(script.script, folder_ / (script.name + ".script"));
   fs::current_path(folder_);
   copied_ = files();

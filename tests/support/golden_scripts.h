@@ -14,8 +14,8 @@ struct GoldenScript {
   std::filesystem::path data;  // the folder with the data files
 };
 
-// tests/scripts/NAME.script with NAME.expected; tests/scripts/NAME/play.script with expected.txt, on the data files of
-// that folder where it has some of its own; examples/NAME.script with tests/scripts/examples/NAME.expected.
+// tests/scripts/NAME.script with NAME.expected, on the data files of tests/scripts/NAME where it has some of its own;
+// examples/NAME.script with tests/scripts/examples/NAME.expected.
 std::vector<GoldenScript> goldenScripts();
 
 // What plays NAME.script in the current folder.
