@@ -1,12 +1,59 @@
+#include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <sstream>
 
+#include <QImage>
+
+#include "canvas/qt_pictures.h"
+#include "player/play_scripts.h"
+#include "surface/disk_files.h"
 #include "tests/canvas/gui.h"
-#include "tests/player/played_script.h"
+#include "tests/support/fakes.h"
+#include "tests/support/golden_scripts.h"
 
 namespace orvane::test {
 namespace {
 
+namespace fs = std::filesystem;
+
 [[maybe_unused]] const auto* const gui = ::testing::AddGlobalTestEnvironment(new Gui);
+
+// Plays a script in the current folder with the real pictures, at midday.
+GoldenOutput played(const GoldenScript& script) {
+  DiskFiles files;
+  QtPictures pictures;
+  FakeClock midday;
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = playScripts(goldenArguments(script), in, out, err, {files, pictures, midday});
+  return {out.str(), err.str(), status};
+}
+
+QImage load(const fs::path& path) {
+  return QImage(QString::fromStdString(path.string())).convertToFormat(QImage::Format_RGB888);
+}
+
+// Empty when both are alike, pixel by pixel.
+std::string firstDifference(const QImage& approved, const QImage& written) {
+  if (approved.size() != written.size()) return "another size";
+  for (int y = 0; y < written.height(); ++y)
+    for (int x = 0; x < written.width(); ++x)
+      if (approved.pixel(x, y) != written.pixel(x, y))
+        return "from pixel " + std::to_string(x) + ", " + std::to_string(y);
+  return {};
+}
+
+void expectApproved(const fs::path& written, const fs::path& approved) {
+  const QImage image = load(written);
+  if (std::getenv("ORVANE_REBASELINE")) {
+    fs::create_directories(approved.parent_path());
+    image.save(QString::fromStdString(approved.string()));
+  }
+  ASSERT_TRUE(fs::exists(approved)) << "not approved yet: " << approved.filename();
+  EXPECT_EQ(firstDifference(load(approved), image), "") << approved.filename();
+}
 
 TEST(GoldenScripts, PlayAsApproved) {
   const auto scripts = goldenScripts();
@@ -15,6 +62,24 @@ TEST(GoldenScripts, PlayAsApproved) {
     const ScratchFolder folder(script);
     expectGolden(script, goldenText(played(script), folder));
   }
+}
+
+// The bitmaps of the example characters beside the approved ones: tests/bitmaps/SCRIPT/FILE.png.
+// ORVANE_REBASELINE=1 approves what is written now.
+TEST(Bitmaps, OfTheExamplesAreAsApproved) {
+  int bitmaps = 0;
+  for (const auto& script : goldenScripts()) {
+    if (script.script.parent_path().filename() != "examples") continue;
+    const ScratchFolder folder(script);
+    const GoldenOutput output = played(script);
+    ASSERT_EQ(output.status, 0) << output.errors;
+    for (const auto& entry : fs::directory_iterator("Perso")) {
+      ++bitmaps;
+      expectApproved(entry.path(), fs::path(ORVANE_SOURCE_DIR) / "tests/bitmaps" / script.name /
+                                       entry.path().filename().replace_extension(".png"));
+    }
+  }
+  EXPECT_EQ(bitmaps, 6);
 }
 
 }  // namespace

@@ -16,21 +16,16 @@ std::string fault(const std::string& text) {
   return {};
 }
 
-TEST(ScriptParser, SkipsBlankLinesAndCommentsAndCountsThem) {
-  const Script script = parseScript("x", "# un commentaire \"\n\n \t\n  click  txtCaract(3)\t\nclose");
-  ASSERT_EQ(script.acts.size(), 2U);
+TEST(ScriptParser, SkipsBlankLinesCommentsAndByteOrderMarkAndCountsLines) {
+  const Script script =
+      parseScript("x", "\xEF\xBB\xBF# début \"\r\n\n \t\n  click  txtCaract(3)\t\r\ntype a \"Éloïse\"\r\nclose");
+  ASSERT_EQ(script.acts.size(), 3U);
   EXPECT_EQ(script.acts[0].line, 4);
   EXPECT_EQ(script.acts[0].kind->name, "click");
   EXPECT_EQ(script.acts[0].target.name, "txtCaract");
   EXPECT_EQ(script.acts[0].target.index, 3);
-  EXPECT_EQ(script.acts[1].line, 5);
-}
-
-TEST(ScriptParser, AcceptsAByteOrderMarkAndCarriageReturns) {
-  const Script script = parseScript("x", "\xEF\xBB\xBF# début\r\ntype txtPerso \"Éloïse\"\r\nclose\r\n");
-  ASSERT_EQ(script.acts.size(), 2U);
-  EXPECT_EQ(script.acts[0].text, "Éloïse");
-  EXPECT_EQ(script.acts[1].line, 3);
+  EXPECT_EQ(script.acts[1].text, "Éloïse");
+  EXPECT_EQ(script.acts[2].line, 6);
 }
 
 // The scripts that are played write the other forms.

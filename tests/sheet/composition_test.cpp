@@ -77,17 +77,6 @@ TEST_F(Composition, PrintsALongDescriptionSmaller) {
   }
 }
 
-TEST_F(Composition, PrintsEachMartialRowWithPointsAndItsTechnics) {
-  auto sheet = visualise();
-  EXPECT_EQ(printedIn(sheet->pctVerso, sheet->shpMartialArt), "");
-  perso->lvwMartialArt.ListItems(1)->setSubItems(2, "3");
-  perso->lvwMartialArt.ListItems(2)->setSubItems(2, "1");
-  for (const int technic : {1, 3}) perso->colPersoArt(1)->colMartialTechnic(technic)->bSelected = true;
-  sheet = visualise();
-  EXPECT_EQ(printedIn(sheet->pctVerso, sheet->shpMartialArt),
-            "10 Boxe :Offensif\n10 Crochet / Direct /\n10 :Défensif\n10 Crochet / Direct /\n");
-}
-
 TEST_F(Composition, SpreadsTheSkillsOverThreeColumns) {
   EXPECT_EQ(skillColumns(1), "//T1 ///1 /");
   EXPECT_EQ(skillColumns(2), "//T1 T2 ///1 2 /");

@@ -130,20 +130,6 @@ TEST_F(FrameTest, AMinimizedFrameSavesNothing) {
   EXPECT_TRUE(settings.values.empty());
 }
 
-TEST_F(FrameTest, WindowCommandsArrange) {
-  struct Arranged : DesktopObserver {
-    std::vector<Arrangement> seen;
-    void arrange(Arrangement arrangement) override { seen.push_back(arrangement); }
-  } arranged;
-  start();
-  run.desktop().watch(arranged);
-  for (auto* entry : {&frame().mnuWindowCascade, &frame().mnuWindowTileHorizontal, &frame().mnuWindowTileVertical,
-                      &frame().mnuWindowArrangeIcons})
-    user.click(*entry);
-  EXPECT_EQ(arranged.seen, (std::vector<Arrangement>{Arrangement::Cascade, Arrangement::TileHorizontally,
-                                                     Arrangement::TileVertically, Arrangement::Icons}));
-}
-
 TEST_F(FrameTest, ContentsAndAideBringUpTheSameWindow) {
   start();
   FrmReadMe& help = openHelp();
