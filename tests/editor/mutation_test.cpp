@@ -45,37 +45,28 @@ TEST_F(Mutation, TakingThePowerBackNeedsTwentyPoints) {
   EXPECT_EQ(takeBackWith("20"), "1 0 64|Tessaly| 20 points de compétence retirés.\n");
 }
 
-// Whoever watches the controls meanwhile, as a screen does, never finds the drawn power's text while it shows.
-TEST_F(Mutation, NoObserverSeesTheDescriptionOfTheDraw) {
-  class Spy : public ControlObserver {
-   public:
+TEST_F(Mutation, TheClockDecidesTheDrawEveryPowerCanComeAndNobodySeesIt) {
+  // Watches the box as a screen does.
+  struct Spy : ControlObserver {
     void controlChanged(Control& control) override {
-      if (auto* box = dynamic_cast<TextBox*>(&control); box && box->Visible()) seen += box->Text();
+      if (auto& box = static_cast<TextBox&>(control); box.Visible()) seen += box.Text();
     }
     std::string seen;
   } spy;
-  perso->txtAllDescro.watch(spy);
-  for (float time = 100; time < 140; ++time) {
+  const auto draw = [&](float time) {
     clock.now = time;
     frmPersonnage* another = open();
     another->txtAllDescro.watch(spy);
     user.pick(another->SSTabPerso, frmPersonnage::Mutation);
     spy.seen.clear();
     user.click(another->cmdMutaRandomChoice);
-    for (const char* power : {"Peau", "Bond", "Griffes"}) EXPECT_EQ(spy.seen.find(power), std::string::npos);
-  }
-}
-
-TEST_F(Mutation, TheClockDecidesTheDrawAndEveryPowerCanCome) {
-  std::map<std::string, int> drawn;
-  const auto draw = [this](float time) {
-    clock.now = time;
-    frmPersonnage* another = open();
-    user.pick(another->SSTabPerso, frmPersonnage::Mutation);
-    user.click(another->cmdMutaRandomChoice);
     return another->cmbMutaName.Text();
   };
-  for (float time = 0; time < 300; ++time) ++drawn[draw(time)];
+  std::map<std::string, int> drawn;
+  for (float time = 0; time < 300; ++time) {
+    ++drawn[draw(time)];
+    for (const char* power : {"Peau", "Bond", "Griffes"}) EXPECT_EQ(spy.seen.find(power), std::string::npos);
+  }
   ASSERT_EQ(drawn.size(), 3U);
   for (const auto& [power, times] : drawn) EXPECT_GT(times, 60) << power;
   EXPECT_EQ(draw(12345.5F), draw(12345.5F));

@@ -3,8 +3,6 @@
 namespace orvane::test {
 namespace {
 
-const std::string tooSmall = "16|Tessaly|Pas assez de points de compétences pour toutes les compétences du profil!\n";
-
 // A row as "NAME level/key/level at application", with "*" for a bold one.
 std::string shown(const ListItem& row) {
   return (row.Bold() ? "*" : "") + row.Text() + " " + row.SubItems(1) + "/" + row.SubItems(2) + "/" + row.SubItems(3);
@@ -40,22 +38,6 @@ TEST_F(Profile, TheRecordsOfTheGameStayClean) {
   EXPECT_EQ(std::vector<double>(keys.begin(), keys.end()), (std::vector<double>{11, 101, 58}));
 }
 
-TEST_F(Profile, ARedundantSkillIsToldForEachRepeatAndPaidOnce) {
-  const std::string told = "48|Tessaly|Compétence Talent 11 redondante.\n48|Tessaly|Compétence Talent 20 redondante.\n";
-  pick("Redondant");
-  EXPECT_EQ(boxes(), told + told) << "clearing the vehicle applies the profile once more";
-  pick("Redondant");
-  EXPECT_EQ(boxes(), told);
-  EXPECT_EQ(perso->txtSkillRest.Text(), "78");
-}
-
-TEST_F(Profile, TwoVehicleCodesCloseTheWindow) {
-  user.pick(open()->cmbProfil, "Deux codes");
-  EXPECT_EQ(boxes(), "16|Tessaly|Code 101 plusieurs fois dans le profil !\n");
-  ASSERT_EQ(desktop.Forms().size(), 1U);
-  EXPECT_EQ(globals.frmCurrentPerso, perso);
-}
-
 TEST_F(Profile, TwoVehicleCodesInTheFirstProfileLetNoWindowOpen) {
   for (int i = 0; i < 2; ++i) data.colProfil.Remove(2);
   EXPECT_EQ(open(), nullptr);
@@ -67,25 +49,9 @@ TEST_F(Profile, TwoVehicleCodesInTheFirstProfileLetNoWindowOpen) {
   EXPECT_EQ(perso->txtMartialArtRest.Text(), "9") << "the other window goes on";
 }
 
-TEST_F(Profile, TooSmallAPoolStopsWhereItStands) {
-  pick("Ruineux");
-  EXPECT_EQ(boxes(), tooSmall);
-  EXPECT_EQ(perso->lvwSkillGen.Count(), 13);
-  EXPECT_EQ(perso->lvwSkillGen.ListItems(1)->Text(), "Talent 01") << "unsorted";
-  EXPECT_EQ(perso->txtSkillRest.Text() + " " + perso->txtMartialArtRest.Text(), "79 0");
-  EXPECT_EQ(perso->txtSkillPro.Caption(), "Patrouilleur");
-  EXPECT_EQ(perso->SSTabPerso.property("TabEnabled"), Value(std::string("0,1,2,3,5")));
-  user.pick(perso->SSTabPerso, frmPersonnage::Competences);
-  user.click(perso->cmdSkillGenModif(1));
-  EXPECT_EQ(perso->txtAllDescro.Text(), "!!! Pas de compétence sélectionnée !!!");
-  user.pick(perso->SSTabPerso, frmPersonnage::EtatCivil);
-  pick("Patrouilleur");
-  EXPECT_EQ(perso->txtSkillRest.Text(), "67");
-}
-
 TEST_F(Profile, TheMartialSkillStopsAfterItsFirstLevelWhenTheRestCannotBePaid) {
   pick("Arts ruineux");  // 80 - 73 - 1 = 6 points for the 9 that its level 10 takes
-  EXPECT_EQ(boxes(), tooSmall);
+  EXPECT_EQ(boxes(), "16|Tessaly|Pas assez de points de compétences pour toutes les compétences du profil!\n");
   EXPECT_EQ(perso->txtSkillRest.Text() + " " + perso->txtMartialArtRest.Text(), "6 10");
   EXPECT_TRUE(perso->SSTabPerso.TabEnabled(frmPersonnage::ArtsMartiaux));
   EXPECT_EQ(shown(*perso->lvwSkillGen.rows().back()), "*Arts martiaux 1/58/1");

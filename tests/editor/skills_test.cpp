@@ -24,8 +24,6 @@ class Skills : public RunFixture {
 
 TEST_F(Skills, ABoughtLevelIsGreenUntilItIsGivenBack) {
   select("Talent 01");
-  step(0);
-  EXPECT_EQ(state(), "2 red, 67, 10, open");
   step(1, 3);
   EXPECT_EQ(state(), "4 green, 65, 10, open");
   step(0);

@@ -49,15 +49,6 @@ TEST_F(Writes, AllButTheValueIsSilent) {
   EXPECT_EQ(form.list.NewIndex(), 0);
 }
 
-TEST_F(Writes, HandlersRunInsideTheWrite) {
-  std::string seen;
-  form.on["text.Change"] = [](Sample& own) { own.list.setListIndex(2); };
-  form.on["list.Click"] = [&](Sample& own) { seen = own.text.Text() + own.list.Text(); };
-  form.text.setText("avant ");
-  EXPECT_EQ(seen, "avant trois");
-  EXPECT_EQ(noted(), (Log{"text.Change", "list.Click"}));
-}
-
 TEST_F(Writes, OptionsUnderOneParentAreOneGroupAcrossTabs) {
   form.framed(1).setValue(true);
   form.front(1).setValue(true);
@@ -72,6 +63,8 @@ TEST_F(Writes, OptionsUnderOneParentAreOneGroupAcrossTabs) {
 
 TEST_F(Writes, OutsideAListFailAndChangeNothing) {
   form.list.setListIndex(1);
+  form.rows.addColumnHeader(600);
+  const auto row = form.rows.Add();
   noted();
   EXPECT_THROW(form.list.setListIndex(3), Failure);
   EXPECT_THROW(form.list.setListIndex(-2), Failure);
@@ -79,23 +72,14 @@ TEST_F(Writes, OutsideAListFailAndChangeNothing) {
   EXPECT_THROW(form.names.setListIndex(0), Failure);
   EXPECT_THROW(form.names.RemoveItem(0), Failure);
   EXPECT_THROW(form.tabs.setTab(3), Failure);
-  EXPECT_THROW(form.tabs.setTabEnabled(-1, true), Failure);
   EXPECT_THROW(form.front(2), Failure);
+  EXPECT_THROW(form.tabs.setTabEnabled(-1, true), Failure);
+  EXPECT_THROW(row->setSubItems(1, "x"), Failure);
+  EXPECT_THROW(row->SubItems(0), Failure);
+  EXPECT_THROW(form.rows.ListItems(0), Failure);
+  EXPECT_THROW(form.rows.ListItems(2), Failure);
   EXPECT_EQ(form.list.ListIndex(), 1);
   EXPECT_EQ(noted(), Log{});
-}
-
-TEST_F(Writes, ObserversHearOfEachChangeOnce) {
-  struct Counter : ControlObserver {
-    int count = 0;
-    void controlChanged(Control&) override { ++count; }
-  } counter;
-  form.text.watch(counter);
-  for (int i = 0; i < 2; ++i) form.text.setText("a");
-  form.text.setEnabled(false);
-  form.text.unwatch(counter);
-  form.text.setText("b");
-  EXPECT_EQ(counter.count, 2);
 }
 
 }  // namespace
