@@ -68,7 +68,6 @@ TEST_F(Writes, OutsideAListFailAndChangeNothing) {
   noted();
   EXPECT_THROW(form.list.setListIndex(3), Failure);
   EXPECT_THROW(form.list.setListIndex(-2), Failure);
-  EXPECT_THROW(form.list.ItemData(-1), Failure);
   EXPECT_THROW(form.names.setListIndex(0), Failure);
   EXPECT_THROW(form.names.RemoveItem(0), Failure);
   EXPECT_THROW(form.tabs.setTab(3), Failure);
