@@ -7,10 +7,11 @@
 
 #include "canvas/qt_pictures.h"
 #include "player/play_scripts.h"
+#include "sheet/frmFeuille.h"
 #include "surface/disk_files.h"
 #include "tests/canvas/gui.h"
-#include "tests/support/fakes.h"
 #include "tests/support/golden_scripts.h"
+#include "tests/support/run_fixture.h"
 
 namespace orvane::test {
 namespace {
@@ -35,24 +36,42 @@ QImage load(const fs::path& path) {
   return QImage(QString::fromStdString(path.string())).convertToFormat(QImage::Format_RGB888);
 }
 
-// Empty when both are alike, pixel by pixel.
-std::string firstDifference(const QImage& approved, const QImage& written) {
-  if (approved.size() != written.size()) return "another size";
-  for (int y = 0; y < written.height(); ++y)
-    for (int x = 0; x < written.width(); ++x)
-      if (approved.pixel(x, y) != written.pixel(x, y))
-        return "from pixel " + std::to_string(x) + ", " + std::to_string(y);
-  return {};
-}
+class Bitmaps : public RunFixture {
+ protected:
+  // The box of the paper form that a pixel lies in.
+  std::string boxAt(QPoint pixel, bool recto) {
+    const auto sheet = std::make_shared<frmFeuille>(globals);
+    for (const auto* control : sheet->controls()) {
+      const auto* shape = dynamic_cast<const Shape*>(control);
+      if (!shape || shape->holder() != (recto ? &sheet->pctRecto : &sheet->pctVerso)) continue;
+      if (QRectF(shape->Left(), shape->Top(), shape->Width(), shape->Height()).contains(QPointF(pixel) * 15))
+        return shape->id();
+    }
+    return "no box";
+  }
 
-void expectApproved(const fs::path& written, const fs::path& approved) {
+  // Empty when both are alike, pixel by pixel.
+  std::string firstDifference(const QImage& approved, const QImage& written, bool recto) {
+    if (approved.size() != written.size()) return "another size";
+    for (int y = 0; y < written.height(); ++y)
+      for (int x = 0; x < written.width(); ++x)
+        if (approved.pixel(x, y) != written.pixel(x, y))
+          return "from pixel " + std::to_string(x) + ", " + std::to_string(y) + " on, in " + boxAt({x, y}, recto);
+    return {};
+  }
+
+  void expectApproved(const fs::path& written, const fs::path& approved);
+};
+
+void Bitmaps::expectApproved(const fs::path& written, const fs::path& approved) {
   const QImage image = load(written);
   if (std::getenv("ORVANE_REBASELINE")) {
     fs::create_directories(approved.parent_path());
     image.save(QString::fromStdString(approved.string()));
   }
   ASSERT_TRUE(fs::exists(approved)) << "not approved yet: " << approved.filename();
-  EXPECT_EQ(firstDifference(load(approved), image), "") << approved.filename();
+  const bool recto = written.stem().string().ends_with("_1");
+  EXPECT_EQ(firstDifference(load(approved), image, recto), "") << approved.filename();
 }
 
 TEST(GoldenScripts, PlayAsApproved) {
@@ -66,7 +85,7 @@ TEST(GoldenScripts, PlayAsApproved) {
 
 // The bitmaps of the example characters beside the approved ones: tests/bitmaps/SCRIPT/FILE.png.
 // ORVANE_REBASELINE=1 approves what is written now.
-TEST(Bitmaps, OfTheExamplesAreAsApproved) {
+TEST_F(Bitmaps, OfTheExamplesAreAsApproved) {
   int bitmaps = 0;
   for (const auto& script : goldenScripts()) {
     if (script.script.parent_path().filename() != "examples") continue;
@@ -80,6 +99,16 @@ TEST(Bitmaps, OfTheExamplesAreAsApproved) {
     }
   }
   EXPECT_EQ(bitmaps, 6);
+}
+
+TEST_F(Bitmaps, ADifferenceIsToldByItsBox) {
+  QImage approved(657, 1024, QImage::Format_RGB888);
+  approved.fill(Qt::white);
+  QImage written = approved;
+  EXPECT_EQ(firstDifference(approved, written, true), "");
+  written.setPixel(200, 95, 0);
+  EXPECT_EQ(firstDifference(approved, written, true), "from pixel 200, 95 on, in shpJoueur");
+  EXPECT_EQ(firstDifference(approved, written, false), "from pixel 200, 95 on, in shpNames(0)");
 }
 
 }  // namespace
