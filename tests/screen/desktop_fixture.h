@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QMessageBox>
@@ -63,6 +64,13 @@ class DesktopFixture : public ::testing::Test {
   frmPersonnage& newCharacter() {
     menu("mnuFileNewPJ");
     return *run.globals().frmCurrentPerso;
+  }
+  void perform(const std::function<void(User&)>& act) {
+    windows.acts().perform(act);
+    turn();
+  }
+  void pickTab(frmPersonnage& character, int tab) {
+    perform([&](User& user) { user.pick(character.SSTabPerso, tab); });
   }
   template <class Widget>
   Widget& find(const Form& form, const char* name) {

@@ -1,10 +1,7 @@
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTemporaryDir>
 
 #include "screen/qt_settings.h"
@@ -28,12 +25,6 @@ class ScreenBoxes : public DesktopFixture {
     const Answer answer = dialogs.MsgBox("<b>un</b>\r\ndeux", style, "Tessaly");
     return about + " -> " + std::to_string(static_cast<int>(answer));
   }
-  frmPersonnage& onContacts() {
-    auto& character = newCharacter();
-    windows.acts().perform([&](User& user) { user.pick(character.SSTabPerso, "Contacts"); });
-    turn();
-    return character;
-  }
 };
 
 TEST_F(ScreenBoxes, HaveTheIconAndButtonsOfTheirStyle) {
@@ -48,9 +39,17 @@ TEST_F(ScreenBoxes, HaveTheIconAndButtonsOfTheirStyle) {
 }
 
 TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
-  auto& character = onContacts();
-  auto& newContact = find<QPushButton>(character, "cmdContactNew");
-  onceOpen<DialogWindow>([&](DialogWindow& dialog) {
+  auto& character = newCharacter();
+  pickTab(character, 2);
+  const auto contactsAfter = [&](const std::function<void(DialogWindow&)>& deed) {
+    onceOpen<DialogWindow>(deed);
+    QTest::mouseClick(&find<QPushButton>(character, "cmdContactNew"), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(run.desktop().modal());
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
+    return find<QListWidget>(character, "lstContact").count();
+  };
+  const auto fillIn = [&](DialogWindow& dialog) {
     EXPECT_EQ(run.desktop().modal()->Name(), "frmContact");
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
     // The windows behind take nothing.
@@ -60,30 +59,10 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
     QTest::keyClicks(name, "Max");
     QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtContactDescro"), "Indic");
     QTest::keyClick(name, Qt::Key_Return);
-  });
-  QTest::mouseClick(&newContact, Qt::LeftButton);
-  settle();
-  EXPECT_FALSE(QGuiApplication::overrideCursor());
-  EXPECT_EQ(find<QListWidget>(character, "lstContact").count(), 1);
-  onceOpen<DialogWindow>([](DialogWindow& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-  QTest::mouseClick(&newContact, Qt::LeftButton);
-  settle();
-  EXPECT_EQ(find<QListWidget>(character, "lstContact").count(), 1);
-  onceOpen<DialogWindow>([](DialogWindow& dialog) { dialog.QWidget::close(); });
-  QTest::mouseClick(&newContact, Qt::LeftButton);
-  settle();
-  EXPECT_FALSE(run.desktop().modal());
-}
-
-TEST_F(ScreenBoxes, AboutIsTheSplashWithAButton) {
-  onceOpen<DialogWindow>([&](DialogWindow& about) {
-    EXPECT_EQ(about.form().Name(), "frmSplash");
-    auto* close = about.findChild<QPushButton*>("cmdClose");
-    EXPECT_TRUE(close->isVisible());
-    QTest::mouseClick(close, Qt::LeftButton);
-  });
-  menu("mnuHelpAbout");
-  EXPECT_FALSE(run.desktop().modal());
+  };
+  EXPECT_EQ(contactsAfter(fillIn), 1);
+  EXPECT_EQ(contactsAfter([](DialogWindow& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), 1);
+  EXPECT_EQ(contactsAfter([](DialogWindow& dialog) { dialog.QWidget::close(); }), 1);
 }
 
 TEST(SettingsOnDisk, KeepTextsBetweenRuns) {

@@ -12,15 +12,13 @@ namespace {
 
 using Focus = ViewFixture;
 
-TEST_F(Focus, LostFocusRunsBeforeTheClick) {
-  click(find<QLineEdit>("txtLine"));
-  EXPECT_EQ(eventsAfter([&] { click(find<QPushButton>("cmdOne")); }), "-txtLine +cmdOne cmdOne");
-}
-
-TEST_F(Focus, TheTabKeyMovesIt) {
+TEST_F(Focus, IsLostBeforeTheClickAndMovedByTab) {
   click(find<QLineEdit>("txtLine"));
   EXPECT_EQ(eventsAfter([&] { QTest::keyClick(&window, Qt::Key_Tab); }), "-txtLine +txtLines");
   EXPECT_EQ(eventsAfter([&] { QTest::keyClick(&window, Qt::Key_Backtab); }), "-txtLines +txtLine");
+  auto& button = find<QPushButton>("cmdOne");
+  EXPECT_EQ(eventsAfter([&] { click(button); }), "-txtLine +cmdOne cmdOne");
+  EXPECT_EQ(eventsAfter([&] { QTest::keyClick(&button, Qt::Key_Return); }), "cmdOne");
 }
 
 TEST_F(Focus, OtherWindowsAndPopupsTakeItFromNobody) {
@@ -55,12 +53,6 @@ TEST_F(Focus, DisablingOrHidingItsWidgetMovesItNowhere) {
   // So does a tab that is changed under the focus.
   click(find<QRadioButton>("optFirst_0"));
   EXPECT_EQ(eventsAfter([&] { form->tabs.setTab(2); }), "tabs 0>2");
-}
-
-TEST_F(Focus, EnterPressesTheButtonThatHasIt) {
-  auto& button = find<QPushButton>("cmdOne");
-  button.setFocus();
-  EXPECT_EQ(eventsAfter([&] { QTest::keyClick(&button, Qt::Key_Return); }), "+cmdOne cmdOne");
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 
 #include <set>
 
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QDialog>
 #include <QRegularExpression>
 
 #include "screen/qt_text.h"
@@ -43,7 +41,6 @@ TEST_F(Layouts, GiveEachControlItsWidgetAndHoldNoOther) {
 }
 
 TEST_F(Layouts, LackingAWidgetIsAnError) {
-  needApplication();
   Form& character = newCharacter();
   QWidget window;
   layOut(character, window);
@@ -52,16 +49,6 @@ TEST_F(Layouts, LackingAWidgetIsAnError) {
   auto* wrong = new QWidget(&window);
   wrong->setObjectName("txtAge");
   EXPECT_THROW(FormView(character, window, windows.acts()), std::logic_error);
-}
-
-TEST_F(Layouts, ShowTheCaptionsOfTheControls) {
-  forEach([](Form& form, QWidget& window) {
-    for (auto* control : form.controls()) {
-      const auto* option = dynamic_cast<OptionButton*>(control);
-      if (!option || option->Caption().empty()) continue;
-      EXPECT_EQ(window.findChild<QAbstractButton*>(widgetName(*control))->text(), toQt(option->Caption()));
-    }
-  });
 }
 
 bool isNameless(QAccessibleInterface& object) {

@@ -1,4 +1,3 @@
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QTreeWidget>
@@ -27,10 +26,6 @@ class ReadableEdges : public DesktopFixture {
       check(theme);
     }
   }
-  void pickTab(int tab) {
-    windows.acts().perform([&](User& user) { user.pick(character->SSTabPerso, tab); });
-    turn();
-  }
   // The best contrast to the ground on the way from one point of a picture to another.
   static double edge(const QImage& picture, QPoint from, QPoint to, const QColor& ground) {
     double best = 1;
@@ -47,9 +42,8 @@ class ReadableEdges : public DesktopFixture {
 };
 
 TEST_F(ReadableEdges, UncheckedBoxesOfListsAreSeen) {
-  pickTab(4);
-  windows.acts().perform([&](User& user) { user.row(character->lvwMartialArt, 1); });
-  turn();
+  pickTab(*character, 4);
+  perform([&](User& user) { user.row(character->lvwMartialArt, 1); });
   auto& tree = find<QTreeWidget>(*character, "lvwMartialTechnic");
   ASSERT_GT(tree.topLevelItemCount(), 1);
   ASSERT_EQ(tree.topLevelItem(1)->checkState(0), Qt::Unchecked);
@@ -83,16 +77,9 @@ TEST_F(ReadableEdges, WhatIsSelectedCanBeRead) {
   onEach([&](const Theme& theme) { check(theme.name.toStdString()); });
 }
 
-TEST_F(ReadableEdges, RowsHaveAir) {
-  auto& tree = find<QTreeWidget>(*character, "lvwSkillGen");
-  const QRect row = tree.visualItemRect(tree.topLevelItem(0));
-  EXPECT_GE(row.height(), tree.fontMetrics().height() + 6);
-  EXPECT_GE(tree.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &tree), 5);
-}
-
 // What is refused is told in the description box, also while that is closed.
 TEST_F(ReadableEdges, RefusalsCanBeReadInAClosedBox) {
-  pickTab(5);
+  pickTab(*character, 5);
   onceOpen<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); });
   find<QCheckBox>(*character, "chkMuta").click();
   settle();

@@ -1,23 +1,17 @@
 #include "screen/rich_text_view.h"
 
 #include <gtest/gtest.h>
-#include <memory>
 
 #include <QAbstractTextDocumentLayout>
-#include <QApplication>
+#include <QPalette>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QTextTable>
 
+#include "tests/screen/application.h"
+
 namespace orvane {
 namespace {
-
-QPalette paletteOf(const QColor& text, const QColor& base) {
-  QPalette palette;
-  palette.setColor(QPalette::Text, text);
-  palette.setColor(QPalette::Base, base);
-  return palette;
-}
 
 // The document's fragments with what tells them apart, a line for each block.
 std::string described(const QTextDocument& document) {
@@ -41,15 +35,16 @@ std::string described(const QTextDocument& document) {
 
 class RichTextView : public testing::Test {
  protected:
-  void show(const char* bytes, const QPalette& palette = paletteOf(Qt::black, Qt::white)) {
+  void show(const std::string& bytes) {
+    QPalette palette;
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Base, Qt::white);
     showRichText(readRichText(bytes), palette, document);
   }
 
-  int argumentCount = 1;
-  char name[6] = "tests";
-  char* arguments[2] = {name, nullptr};
-  // Fonts need an application, and there can be but one.
-  std::unique_ptr<QApplication> application{qApp ? nullptr : new QApplication(argumentCount, arguments)};
+  // Fonts need an application.
+  static void SetUpTestSuite() { test::needApplication(); }
+
   QTextDocument document;
 };
 
@@ -87,7 +82,7 @@ TEST_F(RichTextView, MeasuresArePixels) {
 // Where the text after the marker begins and where the second line does, from the left edge, in pixels.
 TEST_F(RichTextView, TextAfterAMarkerIsFlush) {
   for (const char* indents : {"\\li720\\fi-360 ", "\\li360 "}) {
-    show((std::string("{\\rtf1\\pard{\\pntext\\'b7\\tab}") + indents + "un\\line deux}").c_str());
+    show(std::string("{\\rtf1\\pard{\\pntext\\'b7\\tab}") + indents + "un\\line deux}");
     EXPECT_EQ(described(document), "[12  text|•\\tun\\ndeux]\n");
     document.setTextWidth(600);
     document.documentLayout()->documentSize();

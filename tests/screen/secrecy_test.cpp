@@ -1,7 +1,6 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QMetaProperty>
-#include <QPushButton>
 
 #include "sheet/frmFeuille.h"
 #include "tests/screen/desktop_fixture.h"
@@ -49,16 +48,11 @@ class Secrecy : public DesktopFixture {
   Secrecy() {
     start();
     character = &newCharacter();
-    pickTab(5);
-  }
-  void pickTab(int tab) {
-    windows.acts().perform([&](User& user) { user.pick(character->SSTabPerso, tab); });
-    turn();
+    pickTab(*character, 5);
   }
   Texts shown() { return Texts(*windows.mainWindow()); }
-  std::string entry(int index) const { return character->cmbMutaName.List(index); }
   // Behind the number and the blank.
-  QString powerName(int index) const { return QString::fromStdString(entry(index)).mid(4); }
+  QString powerName(int index) const { return QString::fromStdString(character->cmbMutaName.List(index)).mid(4); }
   QString description(int index) const {
     return QString::fromStdString(run.data().colMutation(character->cmbMutaName.ItemData(index))->sDescro);
   }
@@ -81,13 +75,13 @@ class Secrecy : public DesktopFixture {
   }
   // With a name of its own for all that needs one.
   void makeValid() {
-    pickTab(0);
-    windows.acts().perform([&](User& user) { user.type(character->txtPerso, "Anne"); });
-    pickTab(3);
+    pickTab(*character, 0);
+    perform([&](User& user) { user.type(character->txtPerso, "Anne"); });
+    pickTab(*character, 3);
     for (const auto& row : character->lvwSkillGen.rows())
       if (row->Text().find("préciser") != std::string::npos)
-        windows.acts().perform([&](User& user) { user.edit(character->lvwSkillGen, row->Index(), "Cuisine"); });
-    pickTab(5);
+        perform([&](User& user) { user.edit(character->lvwSkillGen, row->Index(), "Cuisine"); });
+    pickTab(*character, 5);
   }
   void expectSecret(const char* when) {
     const int drawn = character->cmbMutaName.ListIndex();
@@ -99,22 +93,15 @@ class Secrecy : public DesktopFixture {
   frmPersonnage* character = nullptr;
 };
 
-TEST_F(Secrecy, AChosenPowerIsShownAndFound) {
-  windows.acts().perform([&](User& user) { user.pick(character->cmbMutaName, 1); });
-  turn();
-  EXPECT_TRUE(shown().hold(powerName(1)));
-  EXPECT_TRUE(shown().hold(description(1)));
-}
-
 TEST_F(Secrecy, NothingOnTheScreenTellsADrawnPower) {
-  windows.acts().perform([&](User& user) { user.pick(character->cmbMutaName, 1); });
-  turn();
+  perform([&](User& user) { user.pick(character->cmbMutaName, 1); });
+  EXPECT_TRUE(shown().hold(powerName(1)) && shown().hold(description(1))) << "what is chosen is shown";
   draw();
   const int drawn = character->cmbMutaName.ListIndex();
   ASSERT_NE(drawn, 1) << "the draw gave what was chosen before: move the clock of this test";
   expectSecret("after the draw");
   for (int tab = 0; tab < 6; ++tab) {
-    pickTab(tab);
+    pickTab(*character, tab);
     expectSecret("on another tab");
   }
 }
