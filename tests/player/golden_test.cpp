@@ -1,16 +1,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sstream>
 
 #include <QImage>
 
-#include "canvas/qt_pictures.h"
-#include "player/play_scripts.h"
 #include "sheet/frmFeuille.h"
-#include "surface/disk_files.h"
 #include "tests/canvas/gui.h"
-#include "tests/support/golden_scripts.h"
+#include "tests/support/played_script.h"
 #include "tests/support/run_fixture.h"
 
 namespace orvane::test {
@@ -19,18 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 [[maybe_unused]] const auto* const gui = ::testing::AddGlobalTestEnvironment(new Gui);
-
-// Plays a script in the current folder with the real pictures, at midday.
-GoldenOutput played(const GoldenScript& script) {
-  DiskFiles files;
-  QtPictures pictures;
-  FakeClock midday;
-  std::istringstream in;
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = playScripts(goldenArguments(script), in, out, err, {files, pictures, midday});
-  return {out.str(), err.str(), status};
-}
 
 QImage load(const fs::path& path) {
   return QImage(QString::fromStdString(path.string())).convertToFormat(QImage::Format_RGB888);

@@ -2,31 +2,14 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
-#include <sstream>
 
-#include "canvas/qt_pictures.h"
-#include "player/play_scripts.h"
-#include "surface/disk_files.h"
 #include "tests/screen/application.h"
 #include "tests/screen/widget_door.h"
-#include "tests/support/fakes.h"
 #include "tests/support/game_files.h"
-#include "tests/support/golden_scripts.h"
+#include "tests/support/played_script.h"
 
 namespace orvane::test {
 namespace {
-
-// Through the door, or by the player alone where there is none.
-GoldenOutput played(const GoldenScript& script, WidgetDoor* door) {
-  DiskFiles files;
-  QtPictures pictures;
-  FakeClock midday;
-  std::istringstream in;
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = playScripts(goldenArguments(script), in, out, err, {files, pictures, midday, door});
-  return {out.str(), err.str(), status};
-}
 
 GoldenOutput playedOnWidgets(const GoldenScript& script) {
   WidgetDoor door;
