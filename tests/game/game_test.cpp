@@ -9,7 +9,6 @@
 #include "sheet/frmFeuille.h"
 #include "shell/frmMain.h"
 #include "shell/main_procedure.h"
-#include "surface/text.h"
 #include "surface/user.h"
 #include "tests/canvas/gui.h"
 #include "tests/support/fakes.h"
@@ -141,24 +140,6 @@ TEST_F(Game, EverySkillNameStandsOnOneLine) {
   for (const auto& skill : run.data().colSkill)
     EXPECT_LE(sheet.pctVerso.TextWidth(" " + skill->sName), sheet.shpNames(0).Width()) << skill->sName;
   for (int i = 0; i < sheet.shpNames.size(); ++i) EXPECT_EQ(sheet.shpNames(i).Width(), sheet.shpNames(0).Width());
-}
-
-TEST_F(Game, NoDescriptionStandsTwice) {
-  std::map<std::string, std::string> owners;
-  const auto add = [&](const auto& records) {
-    for (const auto& record : records) {
-      const auto [owner, isNew] = owners.emplace(record->sDescro, record->sName);
-      EXPECT_TRUE(isNew) << record->sName << " and " << owner->second;
-      EXPECT_GE(characterCount(record->sDescro), 40U) << record->sName;
-    }
-  };
-  const auto& data = run.data();
-  add(data.colSkill);
-  add(data.colProfil);
-  add(data.colMutation);
-  add(data.colMartialArt);
-  add(data.colDistrict);
-  add(data.colGrade);
 }
 
 TEST_F(Game, HasWhatTheRulesTakeForGranted) {
