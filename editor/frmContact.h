@@ -3,10 +3,10 @@
 #include <string>
 
 #include "editor/globals.h"
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 #include "surface/form.h"
 #include "surface/label.h"
-#include "surface/textbox.h"
+#include "surface/text_box.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "editor/globals.h"
-#include "surface/listview.h"
+#include "surface/list_view.h"
 
 namespace orvane {
 

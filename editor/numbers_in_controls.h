@@ -1,7 +1,7 @@
 #pragma once
 
 #include "surface/numbers.h"
-#include "surface/textbox.h"
+#include "surface/text_box.h"
 
 // Every number of a character lives as decimal text in a control.
 namespace orvane {

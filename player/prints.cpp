@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "surface/combobox.h"
-#include "surface/listbox.h"
-#include "surface/listview.h"
-#include "surface/picturebox.h"
+#include "surface/combo_box.h"
+#include "surface/list_box.h"
+#include "surface/list_view.h"
+#include "surface/picture_box.h"
 
 namespace orvane {
 namespace {

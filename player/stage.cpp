@@ -1,6 +1,6 @@
 #include "player/stage.h"
 
-#include "surface/menuitem.h"
+#include "surface/menu_item.h"
 
 namespace orvane {
 

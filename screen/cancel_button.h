@@ -1,6 +1,6 @@
 #pragma once
 
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include <QCheckBox>
 
 #include "screen/view.h"
-#include "surface/checkbox.h"
+#include "surface/check_box.h"
 
 namespace orvane {
 

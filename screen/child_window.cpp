@@ -10,7 +10,7 @@
 #include "screen/layouts.h"
 #include "screen/measures.h"
 #include "screen/qt_text.h"
-#include "surface/picturebox.h"
+#include "surface/picture_box.h"
 
 namespace orvane {
 namespace {

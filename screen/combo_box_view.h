@@ -3,7 +3,7 @@
 #include <QComboBox>
 
 #include "screen/view.h"
-#include "surface/combobox.h"
+#include "surface/combo_box.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include <QListWidget>
 
 #include "screen/view.h"
-#include "surface/listbox.h"
+#include "surface/list_box.h"
 
 namespace orvane {
 

@@ -5,7 +5,7 @@
 
 #include "screen/list_delegate.h"
 #include "screen/view.h"
-#include "surface/listview.h"
+#include "surface/list_view.h"
 
 namespace orvane {
 

@@ -2,9 +2,9 @@
 
 #include <stdexcept>
 
-#include "screen/button_view.h"
 #include "screen/check_box_view.h"
 #include "screen/combo_box_view.h"
+#include "screen/command_button_view.h"
 #include "screen/form_view.h"
 #include "screen/frame_view.h"
 #include "screen/label_view.h"
@@ -38,7 +38,7 @@ constexpr Maker makers[] = {
     make<ListBox, QListWidget, ListBoxView>,
     make<OptionButton, QRadioButton, OptionButtonView>,
     make<CheckBox, QCheckBox, CheckBoxView>,
-    make<CommandButton, QAbstractButton, ButtonView>,
+    make<CommandButton, QAbstractButton, CommandButtonView>,
     make<Label, QLabel, LabelView>,
     make<Frame, QWidget, FrameView>,
     make<Image, QLabel, ImageView>,

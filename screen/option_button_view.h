@@ -5,7 +5,7 @@
 #include <QRadioButton>
 
 #include "screen/view.h"
-#include "surface/optionbutton.h"
+#include "surface/option_button.h"
 
 namespace orvane {
 

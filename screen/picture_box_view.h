@@ -3,7 +3,7 @@
 #include <QImage>
 
 #include "screen/view.h"
-#include "surface/picturebox.h"
+#include "surface/picture_box.h"
 
 class QPainter;
 

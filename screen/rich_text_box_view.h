@@ -6,7 +6,7 @@
 #include <QTextBrowser>
 
 #include "screen/view.h"
-#include "surface/richtextbox.h"
+#include "surface/rich_text_box.h"
 
 namespace orvane {
 

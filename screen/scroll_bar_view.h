@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "screen/view.h"
-#include "surface/scrollbar.h"
+#include "surface/scroll_bar.h"
 
 namespace orvane {
 

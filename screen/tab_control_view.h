@@ -5,7 +5,7 @@
 #include <QTabWidget>
 
 #include "screen/view.h"
-#include "surface/tabcontrol.h"
+#include "surface/tab_control.h"
 
 namespace orvane {
 

@@ -4,7 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "screen/view.h"
-#include "surface/textbox.h"
+#include "surface/text_box.h"
 
 namespace orvane {
 

@@ -3,11 +3,11 @@
 #include <cstdint>
 
 #include "editor/globals.h"
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 #include "surface/form.h"
-#include "surface/optionbutton.h"
-#include "surface/picturebox.h"
-#include "surface/scrollbar.h"
+#include "surface/option_button.h"
+#include "surface/picture_box.h"
+#include "surface/scroll_bar.h"
 #include "surface/shape.h"
 
 namespace orvane {

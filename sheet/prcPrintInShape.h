@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "surface/picturebox.h"
+#include "surface/picture_box.h"
 #include "surface/shape.h"
 
 namespace orvane {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 #include "surface/form.h"
-#include "surface/richtextbox.h"
+#include "surface/rich_text_box.h"
 
 namespace orvane {
 

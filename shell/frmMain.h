@@ -2,7 +2,7 @@
 
 #include "editor/globals.h"
 #include "surface/form.h"
-#include "surface/menuitem.h"
+#include "surface/menu_item.h"
 
 namespace orvane {
 

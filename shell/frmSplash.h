@@ -1,10 +1,10 @@
 #pragma once
 
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 #include "surface/form.h"
 #include "surface/frame.h"
 #include "surface/label.h"
-#include "surface/textbox.h"
+#include "surface/text_box.h"
 
 namespace orvane {
 

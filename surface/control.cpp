@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "surface/form.h"
-#include "surface/tabcontrol.h"
+#include "surface/tab_control.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "surface/form.h"
-#include "surface/picturebox.h"
+#include "surface/picture_box.h"
 
 namespace orvane {
 

@@ -4,18 +4,18 @@
 
 #include <QWidget>
 
-#include "surface/checkbox.h"
-#include "surface/combobox.h"
-#include "surface/commandbutton.h"
+#include "surface/check_box.h"
+#include "surface/combo_box.h"
+#include "surface/command_button.h"
 #include "surface/form.h"
 #include "surface/frame.h"
 #include "surface/label.h"
-#include "surface/listbox.h"
-#include "surface/listview.h"
-#include "surface/optionbutton.h"
-#include "surface/scrollbar.h"
-#include "surface/tabcontrol.h"
-#include "surface/textbox.h"
+#include "surface/list_box.h"
+#include "surface/list_view.h"
+#include "surface/option_button.h"
+#include "surface/scroll_bar.h"
+#include "surface/tab_control.h"
+#include "surface/text_box.h"
 
 namespace orvane::test {
 

@@ -18,12 +18,12 @@
 #include <QTreeWidget>
 
 #include "screen/qt_text.h"
-#include "surface/combobox.h"
+#include "surface/combo_box.h"
 #include "surface/entries.h"
-#include "surface/listbox.h"
-#include "surface/listview.h"
-#include "surface/menuitem.h"
-#include "surface/tabcontrol.h"
+#include "surface/list_box.h"
+#include "surface/list_view.h"
+#include "surface/menu_item.h"
+#include "surface/tab_control.h"
 
 namespace orvane::test {
 namespace {

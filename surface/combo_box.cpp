@@ -1,4 +1,4 @@
-#include "surface/combobox.h"
+#include "surface/combo_box.h"
 
 #include "surface/entries.h"
 #include "surface/failure.h"

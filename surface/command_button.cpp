@@ -1,4 +1,4 @@
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 
 namespace orvane {
 

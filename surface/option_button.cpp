@@ -1,4 +1,4 @@
-#include "surface/optionbutton.h"
+#include "surface/option_button.h"
 
 #include "surface/form.h"
 

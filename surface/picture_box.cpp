@@ -1,4 +1,4 @@
-#include "surface/picturebox.h"
+#include "surface/picture_box.h"
 
 #include "surface/desktop.h"
 #include "surface/failure.h"

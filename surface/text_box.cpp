@@ -1,4 +1,4 @@
-#include "surface/textbox.h"
+#include "surface/text_box.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "surface/scrollbar.h"
+#include "surface/scroll_bar.h"
 
 namespace orvane {
 

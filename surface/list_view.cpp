@@ -1,4 +1,4 @@
-#include "surface/listview.h"
+#include "surface/list_view.h"
 
 #include "surface/entries.h"
 #include "surface/failure.h"

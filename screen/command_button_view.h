@@ -3,13 +3,13 @@
 #include <QAbstractButton>
 
 #include "screen/view.h"
-#include "surface/commandbutton.h"
+#include "surface/command_button.h"
 
 namespace orvane {
 
-class ButtonView final : public View {
+class CommandButtonView final : public View {
  public:
-  ButtonView(CommandButton& command, QAbstractButton& button, FormView& form);
+  CommandButtonView(CommandButton& command, QAbstractButton& button, FormView& form);
 
  private:
   void show() override;

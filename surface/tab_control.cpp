@@ -1,4 +1,4 @@
-#include "surface/tabcontrol.h"
+#include "surface/tab_control.h"
 
 #include <charconv>
 

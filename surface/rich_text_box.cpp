@@ -1,4 +1,4 @@
-#include "surface/richtextbox.h"
+#include "surface/rich_text_box.h"
 
 #include "surface/desktop.h"
 

@@ -1,4 +1,4 @@
-#include "screen/button_view.h"
+#include "screen/command_button_view.h"
 
 #include <optional>
 
@@ -10,7 +10,7 @@
 
 namespace orvane {
 
-ButtonView::ButtonView(CommandButton& command, QAbstractButton& button, FormView& form)
+CommandButtonView::CommandButtonView(CommandButton& command, QAbstractButton& button, FormView& form)
     : View(command, button, form), command_(command), button_(button) {
   button_.setFocusPolicy(Qt::StrongFocus);
   if (command_.picture() != CommandButton::Picture::None) showArrow();
@@ -18,19 +18,19 @@ ButtonView::ButtonView(CommandButton& command, QAbstractButton& button, FormView
   onEvent(button_, [this](QEvent& event) { return enterPressed(event); });
 }
 
-void ButtonView::showArrow() {
+void CommandButtonView::showArrow() {
   const bool left = command_.picture() == CommandButton::Picture::LeftArrow;
   button_.setIcon(button_.style()->standardIcon(left ? QStyle::SP_ArrowLeft : QStyle::SP_ArrowRight));
   button_.setAutoRepeat(true);
 }
 
-void ButtonView::show() {
+void CommandButtonView::show() {
   if (const QString caption = toQt(command_.Caption()); !caption.isEmpty() && button_.text() != caption)
     button_.setText(caption);
 }
 
 // Qt itself lets Enter press buttons in dialogs only.
-bool ButtonView::enterPressed(const QEvent& event) {
+bool CommandButtonView::enterPressed(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return false;
   const int key = static_cast<const QKeyEvent&>(event).key();
   if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
@@ -38,7 +38,7 @@ bool ButtonView::enterPressed(const QEvent& event) {
   return true;
 }
 
-void ButtonView::click() {
+void CommandButtonView::click() {
   // A shortcut presses a button without bringing the keyboard there; the form's focus does move.
   if (!button_.hasFocus()) button_.setFocus(Qt::ShortcutFocusReason);
   // A button may compose or save a sheet; an arrow only steps.

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "surface/failure.h"
-#include "surface/listview.h"
+#include "surface/list_view.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "surface/listbox.h"
+#include "surface/list_box.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "surface/checkbox.h"
+#include "surface/check_box.h"
 
 namespace orvane {
 
