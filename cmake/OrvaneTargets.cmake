@@ -6,11 +6,17 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # g++ 12 sees overlaps in std::string operations that are none, once it optimises.
   target_compile_options(orvane_build INTERFACE -Wno-restrict)
 endif()
+target_compile_options(orvane_build INTERFACE -fPIC)  # as Qt asks for: all can then share precompiled headers
 target_include_directories(orvane_build INTERFACE ${PROJECT_SOURCE_DIR})
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orvane_build INTERFACE -fsanitize=address,undefined)
 endif()
+
+# Precompiled once for all that need no Qt, once with Qt, and the same for the tests.
+set(standard_headers <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
+set(qt_headers <QApplication> <QComboBox> <QKeyEvent> <QLayout> <QMdiArea> <QMenuBar> <QMessageBox> <QPainter>
+  <QPlainTextEdit> <QSignalBlocker> <QStyleOption> <QTimer> <QTreeWidget>)
 
 # orvane_library(NAME LIB...): a static library of all sources of this folder; it may use LIB... and nothing else.
 function(orvane_library name)
@@ -25,7 +31,11 @@ function(orvane_tests folder)
   file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
   include(GoogleTest)
   add_executable(${folder}_tests ${sources})
-  target_link_libraries(${folder}_tests PRIVATE ${ARGN} GTest::gtest_main GTest::gmock)
-  target_compile_definitions(${folder}_tests PRIVATE ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${folder}_tests PRIVATE test_support ${ARGN} GTest::gtest_main)
+  if(Qt6::Test IN_LIST ARGN)
+    target_precompile_headers(${folder}_tests PRIVATE ${standard_headers} <gtest/gtest.h> ${qt_headers} <QTest>)
+  else()
+    target_precompile_headers(${folder}_tests REUSE_FROM test_support)
+  endif()
   gtest_discover_tests(${folder}_tests PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_TIMEOUT 60)
 endfunction()

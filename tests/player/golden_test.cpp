@@ -8,6 +8,7 @@
 #include "tests/canvas/gui.h"
 #include "tests/support/played_script.h"
 #include "tests/support/run_fixture.h"
+#include "tests/support/source_folder.h"
 
 namespace orvane::test {
 namespace {
@@ -78,7 +79,7 @@ TEST_F(Bitmaps, OfTheExamplesAreAsApproved) {
     ASSERT_EQ(output.status, 0) << output.errors;
     for (const auto& entry : fs::directory_iterator("Perso")) {
       ++bitmaps;
-      expectApproved(entry.path(), fs::path(ORVANE_SOURCE_DIR) / "tests/bitmaps" / script.name /
+      expectApproved(entry.path(), sourceFolder() / "tests/bitmaps" / script.name /
                                        entry.path().filename().replace_extension(".png"));
     }
   }

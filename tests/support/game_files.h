@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/support/memory_files.h"
+#include "tests/support/source_folder.h"
 
 namespace orvane::test {
 
@@ -17,7 +18,7 @@ inline std::string bytesOf(const std::filesystem::path& path) {
 // The folder that the program is started in, in memory.
 inline MemoryFiles gameFiles() {
   MemoryFiles files;
-  for (const auto& entry : std::filesystem::directory_iterator(ORVANE_SOURCE_DIR "/game")) {
+  for (const auto& entry : std::filesystem::directory_iterator(sourceFolder() / "game")) {
     if (!entry.is_regular_file()) continue;  // the sheets that somebody saved there
     const std::string name = entry.path().filename().string();
     files.contents[name] = files.contents["./" + name] = bytesOf(entry.path());

@@ -9,13 +9,14 @@
 #include <unistd.h>
 
 #include "tests/support/game_files.h"
+#include "tests/support/source_folder.h"
 
 namespace orvane::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path source = ORVANE_SOURCE_DIR;
+const fs::path source = sourceFolder();
 
 const fs::path scripts = source / "tests/scripts";
 
