@@ -21,8 +21,6 @@ class DataFile {
   std::optional<RecordLine> readline();
 
  private:
-  std::string_view cutLine();
-
   std::string name_;
   std::string bytes_;
   std::string_view rest_;

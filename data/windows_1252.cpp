@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "surface/text.h"
+
 namespace orvane {
 namespace {
 
@@ -14,20 +16,6 @@ constexpr std::array<char16_t, 32> upperControls = {0x20AC, 0,      0x201A, 0x01
 char16_t codePoint(char byte) {
   const auto code = static_cast<unsigned char>(byte);
   return code >= 0x80 && code < 0xA0 ? upperControls.at(code - 0x80u) : code;
-}
-
-void appendUtf8(std::string& text, char16_t code) {
-  if (code < 0x80) {
-    text += static_cast<char>(code);
-    return;
-  }
-  if (code < 0x800) {
-    text += static_cast<char>(0xC0 | (code >> 6));
-  } else {
-    text += static_cast<char>(0xE0 | (code >> 12));
-    text += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-  }
-  text += static_cast<char>(0x80 | (code & 0x3F));
 }
 
 }  // namespace

@@ -5,20 +5,12 @@
 #include <unicode/ustring.h>
 
 #include "player/acts.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-// Cuts the next line off the rest, without its line end.
-std::string_view nextLine(std::string_view& rest) {
-  const auto end = std::min(rest.find('\n'), rest.size());
-  std::string_view line = rest.substr(0, end);
-  rest.remove_prefix(std::min(end + 1, rest.size()));
-  if (line.ends_with('\r')) line.remove_suffix(1);
-  return line;
-}
 
 bool isUtf8(std::string_view text) {
   std::int32_t units = 0;
@@ -64,9 +56,10 @@ void parseLine(Script& script, std::string_view line, int number) {
 Script parseScript(const std::string& file, std::string_view bytes) {
   Script script{file, {}};
   if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
+  if (bytes.ends_with('\r')) bytes.remove_suffix(1);  // a last line without its LF
   int number = 0;
   try {
-    while (!bytes.empty()) parseLine(script, nextLine(bytes), ++number);
+    while (!bytes.empty()) parseLine(script, cutLine(bytes), ++number);
   } catch (const LineError& error) {
     throw ScriptError{file + ":" + std::to_string(number) + ": " + error.reason};
   }

@@ -10,7 +10,4 @@ inline constexpr char32_t replacementCharacter = 0xFFFD;
 // The character of a byte of the code page Windows-1252, as UTF-8; the replacement character where it has none.
 std::string byteText(char byte);
 
-// Appends one character; the replacement character in place of a surrogate or of what lies beyond Unicode.
-void appendUtf8(std::string& text, char32_t character);
-
 }  // namespace orvane

@@ -4,6 +4,7 @@
 
 #include "shell/rtf_characters.h"
 #include "shell/rtf_words.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <unicode/coll.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include "surface/failure.h"
 
@@ -51,6 +52,23 @@ std::string trimmed(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string_view cutLine(std::string_view& rest) {
+  const auto end = rest.find('\n');
+  std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
+void appendUtf8(std::string& text, char32_t character) {
+  char bytes[U8_MAX_LENGTH];
+  std::size_t size = 0;
+  bool unfit = false;
+  U8_APPEND(bytes, size, sizeof bytes, character, unfit);
+  if (unfit) return appendUtf8(text, U'\uFFFD');
+  text.append(bytes, size);
 }
 
 std::string sortKey(std::string_view text) {

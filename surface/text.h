@@ -18,6 +18,12 @@ std::string lowerCase(std::string_view text);
 // Without the spaces at both ends.
 std::string trimmed(std::string_view text);
 
+// Cuts the next line off the rest, without its line end, LF or CR LF. A last line need not have one.
+std::string_view cutLine(std::string_view& rest);
+
+// Appends one character; U+FFFD in place of a surrogate or of what lies beyond Unicode.
+void appendUtf8(std::string& text, char32_t character);
+
 // A text whose byte order is the French alphabetical order of the texts it was made from (É beside E).
 std::string sortKey(std::string_view text);
 
