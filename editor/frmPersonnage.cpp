@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "data/reference_data.h"
-#include "editor/numbers_in_controls.h"
+#include "editor/art_row.h"
 #include "surface/desktop.h"
 #include "surface/text.h"
 
@@ -173,16 +173,16 @@ void frmPersonnage::copyMartialArts() {
 }
 
 void frmPersonnage::addMartialRows() {
-  const auto addRow = [this](const std::string& name, const char* direction, std::int32_t position) {
+  const auto addRow = [this](const std::string& name, const Direction& direction, std::int32_t position) {
     const auto row = lvwMartialArt.Add();
     row->setText(name);
-    row->setSubItems(1, direction);
-    row->setSubItems(2, "0");
-    row->setSubItems(3, std::to_string(position));
+    row->setSubItems(ArtRow::Direction, std::string(direction.name));
+    setNumber(*row, ArtRow::Points, 0);
+    setNumber(*row, ArtRow::Position, position);
   };
   for (std::int32_t i = 1; i <= colPersoArt.Count(); ++i) {
-    addRow(colPersoArt(i)->sName, "Offensif", i);
-    addRow("", "Défensif", i);
+    addRow(colPersoArt(i)->sName, offensive, i);
+    addRow("", defensive, i);
   }
 }
 

@@ -144,6 +144,8 @@ class frmPersonnage : public Form {
   // This character's private copy of the martial arts, in the order of colMartialArt.
   Collection<std::shared_ptr<clsMartialArt>> colPersoArt;
 
+  // The art of a row of lvwMartialArt (martial_arts.cpp).
+  clsMartialArt& artOf(const ListItem& row) const;
   // The four buttons that act on a selected contact (contacts.cpp).
   void enableContactButtons(bool enabled);
   // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
@@ -237,7 +239,7 @@ class frmPersonnage : public Form {
   bool buildSkillList(const ProfileCopies& profiles);
   bool addProfileSkill(const clsSkill& skill);
   bool addMartialSkillLevels(ListItem& row);
-  ListItemRef addSkillRow(const clsSkill& skill, const std::string& level, bool ofProfile);
+  ListItemRef addSkillRow(const clsSkill& skill, double level, bool ofProfile);
   bool paySkillPoints(double cost);
   void warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill);
   void showFirstSkill();
@@ -259,7 +261,6 @@ class frmPersonnage : public Form {
   void lvwMartialArt_ItemClick(ListItemRef Item);
   void lvwMartialTechnic_ItemClick(ListItemRef Item);
   void lvwMartialTechnic_ItemCheck(ListItemRef Item);
-  clsMartialArt& artOf(const ListItem& row) const;
   clsMartialTechnic& technicOf(const ListItem& row) const;
   int addTechnicRows(const ListItem& artRow);
   void removeMartialPoint(ListItem& row);

@@ -1,33 +1,34 @@
+#include <algorithm>
+
+#include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
 #include "editor/martial_restrict.h"
-#include "editor/numbers_in_controls.h"
 
 namespace orvane {
 namespace {
 
-double points(const ListItem& row) { return numericPrefix(row.SubItems(2)); }
-void setPoints(ListItem& row, double value) { row.setSubItems(2, numberText(value)); }
+double points(const ListItem& row) { return number(row, ArtRow::Points); }
 
 bool belongsTo(const clsMartialTechnic& technic, const ListItem& artRow) {
-  return (technic.sType == "o" && artRow.SubItems(1) == "Offensif") ||
-         (technic.sType == "d" && artRow.SubItems(1) == "Défensif");
+  for (const auto& [name, technicType] : {offensive, defensive})
+    if (technic.sType == technicType) return artRow.SubItems(ArtRow::Direction) == name;
+  return false;
 }
 
 }  // namespace
 
 clsMartialArt& frmPersonnage::artOf(const ListItem& row) const {
-  return *colPersoArt(toInt16(strictNumber(row.SubItems(3))));
+  return *colPersoArt(toInt16(number(row, ArtRow::Position)));
 }
 
 // Of a row of lvwMartialTechnic, which shows the techniques of the selected row of lvwMartialArt.
 clsMartialTechnic& frmPersonnage::technicOf(const ListItem& row) const {
-  return *artOf(*lvwMartialArt.SelectedItem()).colMartialTechnic(toInt16(strictNumber(row.SubItems(1))));
+  return *artOf(*lvwMartialArt.SelectedItem()).colMartialTechnic(toInt16(number(row, TechnicRow::Position)));
 }
 
 void frmPersonnage::enterArtsMartiaux() {
   if (const ListItemRef selected = lvwMartialArt.SelectedItem()) {
     lvwMartialArt_ItemClick(selected);
-    txtAllDescro.setText(colPersoArt(toInt16(numericPrefix(selected->SubItems(3))))->sDescro);
   } else {
     lvwMartialTechnic.Clear();
     txtMartialTechnicRest.setText("");
@@ -54,7 +55,7 @@ void frmPersonnage::removeMartialPoint(ListItem& row) {
     add(txtMartialTechnicRest, -1);
   }
   add(txtMartialArtRest, 1);
-  setPoints(row, points(row) - 1);
+  add(row, ArtRow::Points, -1);
 }
 
 void frmPersonnage::addMartialPoint(ListItem& row) {
@@ -63,17 +64,14 @@ void frmPersonnage::addMartialPoint(ListItem& row) {
   // A point above the number of techniques buys none.
   if (points(row) < lvwMartialTechnic.Count()) add(txtMartialTechnicRest, 1);
   add(txtMartialArtRest, -1);
-  setPoints(row, points(row) + 1);
+  add(row, ArtRow::Points, 1);
 }
 
 void frmPersonnage::lvwMartialArt_ItemClick(ListItemRef Item) {
   Item->select();
   lvwMartialTechnic.Clear();
   const int checked = addTechnicRows(*Item);
-  txtMartialTechnicRest.setText(Item->SubItems(2));
-  if (number(txtMartialTechnicRest) > lvwMartialTechnic.Count())
-    setNumber(txtMartialTechnicRest, lvwMartialTechnic.Count());
-  add(txtMartialTechnicRest, -checked);
+  setNumber(txtMartialTechnicRest, std::min<double>(points(*Item), lvwMartialTechnic.Count()) - checked);
   txtAllDescro.setText(artOf(*Item).sDescro);
 }
 
@@ -85,7 +83,7 @@ int frmPersonnage::addTechnicRows(const ListItem& artRow) {
     if (!belongsTo(*technics(i), artRow)) continue;
     const auto row = lvwMartialTechnic.Add();
     row->setText(technics(i)->sName);
-    row->setSubItems(1, std::to_string(i));
+    setNumber(*row, TechnicRow::Position, i);
     row->setChecked(technics(i)->bSelected);
     checked += row->Checked();
   }

@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
 #include "surface/desktop.h"
-#include "surface/numbers.h"
 #include "surface/text.h"
 
 namespace orvane {
@@ -14,8 +14,6 @@ constexpr std::int16_t unknown = -1;
 
 double fullGroups(std::int16_t points, std::int16_t term) { return std::floor(static_cast<double>(points) / term); }
 
-double pointsOf(const ListItem& row) { return strictNumber(row.SubItems(2)); }
-
 // Offensive and defensive points of one art.
 struct ArtPoints {
   std::int16_t iO = unknown;
@@ -23,8 +21,8 @@ struct ArtPoints {
 
   // The place for the points of a row; null for a row of another direction.
   std::int16_t* of(const ListItem& row) {
-    if (row.SubItems(1) == "Offensif") return &iO;
-    if (row.SubItems(1) == "Défensif") return &iD;
+    if (row.SubItems(ArtRow::Direction) == offensive.name) return &iO;
+    if (row.SubItems(ArtRow::Direction) == defensive.name) return &iD;
     return nullptr;
   }
 };
@@ -32,9 +30,9 @@ struct ArtPoints {
 // The row that changes keeps its new points, the other row of its art gives its present ones.
 void addPresentPoints(ArtPoints& points, const ListView& arts, const ListItem& Item) {
   for (const auto& row : arts.rows()) {
-    if (row->SubItems(3) != Item.SubItems(3)) continue;
+    if (row->SubItems(ArtRow::Position) != Item.SubItems(ArtRow::Position)) continue;
     auto* place = points.of(*row);
-    if (place && *place == unknown) *place = toInt16(pointsOf(*row));
+    if (place && *place == unknown) *place = toInt16(number(*row, ArtRow::Points));
   }
 }
 
@@ -46,20 +44,20 @@ bool error(Globals& globals, const char* message) {
 }  // namespace
 
 bool restrictionAllows(std::int16_t RO, std::int16_t RD, std::int16_t iO, std::int16_t iD) {
-  const double offensive = fullGroups(iO, RO);
-  const double defensive = fullGroups(iD, RD);
-  return RO < RD ? defensive >= offensive : offensive >= defensive;
+  const double groupsO = fullGroups(iO, RO);
+  const double groupsD = fullGroups(iD, RD);
+  return RO < RD ? groupsD >= groupsO : groupsO >= groupsD;
 }
 
 bool prcMartialRestrict(Globals& globals, const ListItem& Item, std::int16_t iDelta) {
   frmPersonnage& perso = *globals.frmCurrentPerso;
-  const auto& art = *perso.colPersoArt(toInt16(strictNumber(Item.SubItems(3))));
+  const clsMartialArt& art = perso.artOf(Item);
   if (art.iRestrictO == 0 || art.iRestrictD == 0) return true;
 
   ArtPoints points;
   auto* changing = points.of(Item);
   if (!changing) return error(globals, "Error : type of Martial Art unknown.");
-  *changing = toInt16(pointsOf(Item) + iDelta);
+  *changing = toInt16(number(Item, ArtRow::Points) + iDelta);
   addPresentPoints(points, perso.lvwMartialArt, Item);
   if (points.iO == unknown || points.iD == unknown)
     return error(globals, "Error : Values for 2 Martial technic types not found.");

@@ -1,12 +1,21 @@
 #include "data/reference_data.h"
+#include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
-#include "editor/numbers_in_controls.h"
+#include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 #include "surface/desktop.h"
 #include "surface/failure.h"
 #include "surface/text.h"
 
 namespace orvane {
+namespace {
+
+void setStartLevel(ListItem& row, double level) {
+  setNumber(row, SkillRow::Level, level);
+  setNumber(row, SkillRow::StartLevel, level);
+}
+
+}  // namespace
 
 void frmPersonnage::cmbVehicle_Click() {
   if (iProfilChanging) {
@@ -92,7 +101,7 @@ void frmPersonnage::putVehicleSkill(clsProfil& profile) {
 
 void frmPersonnage::resetMartialArts() {
   txtMartialArtRest.setText("0");
-  for (const auto& row : lvwMartialArt.rows()) row->setSubItems(2, "0");
+  for (const auto& row : lvwMartialArt.rows()) setNumber(*row, ArtRow::Points, 0);
   for (const auto& art : colPersoArt)
     for (const auto& technic : art->colMartialTechnic) technic->bSelected = false;
 }
@@ -103,7 +112,7 @@ bool frmPersonnage::buildSkillList(const ProfileCopies& profiles) {
     if (skill->iKey == vehicleCode) continue;
     warnOfRedundancy(profiles, *skill);
     if (occurrences(profiles, skill->iKey) == 0)
-      addSkillRow(*skill, std::to_string(skill->iStart), false);
+      addSkillRow(*skill, skill->iStart, false);
     else if (!addProfileSkill(*skill))
       return false;
   }
@@ -117,7 +126,7 @@ void frmPersonnage::warnOfRedundancy(const ProfileCopies& profiles, const clsSki
 
 bool frmPersonnage::addProfileSkill(const clsSkill& skill) {
   if (!paySkillPoints(profileSkillCost(skill.iStart))) return false;
-  const auto row = addSkillRow(skill, numberText(profileSkillLevel), true);
+  const auto row = addSkillRow(skill, profileSkillLevel, true);
   return skill.iKey != martialSkillKey || addMartialSkillLevels(*row);
 }
 
@@ -125,20 +134,18 @@ bool frmPersonnage::addMartialSkillLevels(ListItem& row) {
   SSTabPerso.setTabEnabled(ArtsMartiaux, true);
   setNumber(txtMartialArtRest, martialSkillLevel);
   if (!paySkillPoints(martialSkillExtraCost)) return false;
-  row.setSubItems(1, numberText(martialSkillLevel));
-  row.setSubItems(3, row.SubItems(1));
+  setStartLevel(row, martialSkillLevel);
   return true;
 }
 
-ListItemRef frmPersonnage::addSkillRow(const clsSkill& skill, const std::string& level, bool ofProfile) {
+ListItemRef frmPersonnage::addSkillRow(const clsSkill& skill, double level, bool ofProfile) {
   auto row = lvwSkillGen.Add();
   row->setText(skill.sName);
-  row->setSubItems(1, level);
-  row->setSubItems(2, std::to_string(skill.iKey));
-  row->setSubItems(3, level);
+  setNumber(*row, SkillRow::Key, skill.iKey);
+  setStartLevel(*row, level);
   row->setBold(ofProfile);
-  row->ListSubItems(1).setForeColor(Colour::Red);
-  row->ListSubItems(1).setBold(true);
+  row->ListSubItems(SkillRow::Level).setForeColor(Colour::Red);
+  row->ListSubItems(SkillRow::Level).setBold(true);
   return row;
 }
 

@@ -19,6 +19,6 @@ int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::in
   return count;
 }
 
-bool isNamedByUser(const std::string& key) { return key == "56" || key == "57" || key == "59" || key == "60"; }
+bool isNamedByUser(double key) { return std::count(namedKeys.begin(), namedKeys.end(), key) != 0; }
 
 }  // namespace orvane

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "data/records.h"
@@ -13,6 +13,7 @@ namespace orvane {
 // The code of a profile that stands for the skill of the favourite vehicle.
 inline constexpr std::int16_t vehicleCode = 101;
 inline constexpr std::int16_t martialSkillKey = 58;
+inline constexpr std::array<std::int16_t, 4> namedKeys{56, 57, 59, 60};
 // The pool that a profile starts from.
 inline constexpr double skillPoolBase = 80;
 // The levels that a profile brings, and with the second as many martial-art points.
@@ -37,7 +38,7 @@ double profileSkillCost(std::int16_t iStart);
 // How often the profiles name a skill.
 int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::int16_t iKey);
 
-// The four skills that the user names.
-bool isNamedByUser(const std::string& key);
+// Of one of the four skills that stand for what the user names.
+bool isNamedByUser(double key);
 
 }  // namespace orvane

@@ -1,6 +1,6 @@
 #include "data/reference_data.h"
 #include "editor/frmPersonnage.h"
-#include "editor/numbers_in_controls.h"
+#include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 #include "surface/text.h"
 
@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t longestSkillName = 25;
 
-double level(const ListItem& row) { return numericPrefix(row.SubItems(1)); }
-double key(const ListItem& row) { return numericPrefix(row.SubItems(2)); }
+double level(const ListItem& row) { return number(row, SkillRow::Level); }
+double key(const ListItem& row) { return number(row, SkillRow::Key); }
 
 }  // namespace
 
@@ -53,21 +53,21 @@ bool frmPersonnage::stepSkillDown(ListItem& row, double lowest) {
     add(txtMartialArtRest, -1);
   }
   add(txtSkillRest, 1);
-  row.setSubItems(1, numberText(level(row) - 1));
-  if (level(row) == lowest) row.ListSubItems(1).setForeColor(Colour::Red);
+  add(row, SkillRow::Level, -1);
+  if (level(row) == lowest) row.ListSubItems(SkillRow::Level).setForeColor(Colour::Red);
   return true;
 }
 
 void frmPersonnage::stepSkillUp(ListItem& row, double highest) {
   if (level(row) >= highest || number(txtSkillRest) <= 0) return;
   add(txtSkillRest, -1);
-  row.setSubItems(1, numberText(level(row) + 1));
-  row.ListSubItems(1).setForeColor(Colour::Green);
+  add(row, SkillRow::Level, 1);
+  row.ListSubItems(SkillRow::Level).setForeColor(Colour::Green);
   if (key(row) == martialSkillKey) add(txtMartialArtRest, 1);
 }
 
 void frmPersonnage::lvwSkillGen_BeforeLabelEdit(bool& Cancel) {
-  if (!isNamedByUser(lvwSkillGen.SelectedItem()->SubItems(2))) Cancel = true;
+  if (!isNamedByUser(key(*lvwSkillGen.SelectedItem()))) Cancel = true;
 }
 
 void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
@@ -75,8 +75,8 @@ void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
 }
 
 bool frmPersonnage::prcSkillNotOnSheet(const ListItem& itm) const {
-  if (itm.SubItems(2) == std::to_string(martialSkillKey)) return true;
-  return isNamedByUser(itm.SubItems(2)) && level(itm) <= skillOf(itm)->iStart;
+  if (key(itm) == martialSkillKey) return true;
+  return isNamedByUser(key(itm)) && level(itm) <= skillOf(itm)->iStart;
 }
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
 #include "editor/frmPersonnage.h"
-#include "editor/numbers_in_controls.h"
+#include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 #include "editor/verdict.h"
 #include "surface/desktop.h"
@@ -66,7 +66,7 @@ bool frmPersonnage::otherLanguageLacksItsName() const {
 
 void frmPersonnage::checkSkillNames(Verdict& verdict) {
   for (const auto& row : lvwSkillGen.rows()) {
-    if (!isNamedByUser(row->SubItems(2))) continue;
+    if (!isNamedByUser(number(*row, SkillRow::Key))) continue;
     const bool broken = lacksItsName(*row);
     row->setForeColor(broken ? Colour::Red : Colour::WindowText);
     verdict.essential |= broken;
@@ -76,7 +76,7 @@ void frmPersonnage::checkSkillNames(Verdict& verdict) {
 // Bought, but not given a name of its own.
 bool frmPersonnage::lacksItsName(const ListItem& row) const {
   const auto* skill = skillOf(row);
-  return skill && numericPrefix(row.SubItems(1)) > skill->iStart && row.Text() == skill->sName;
+  return skill && number(row, SkillRow::Level) > skill->iStart && row.Text() == skill->sName;
 }
 
 void frmPersonnage::checkMartialArts(Verdict& verdict) {

@@ -1,8 +1,9 @@
+#include "editor/art_row.h"
+#include "editor/skill_row.h"
 #include "sheet/composition_sides.h"
 #include "sheet/equipment_text.h"
 #include "sheet/line_marker.h"
 #include "sheet/prcPrintInShape.h"
-#include "surface/numbers.h"
 #include "surface/text.h"
 
 namespace orvane {
@@ -13,18 +14,17 @@ constexpr std::int16_t equipmentGap = 50;
 constexpr int skillColumns = 3;
 
 std::string martialArtText(const ListItem& row, const frmPersonnage& perso) {
-  std::string text = row.Text() + " :" + row.SubItems(1) + std::string(crLf);
-  const auto& art = *perso.colPersoArt(static_cast<std::int32_t>(numericPrefix(row.SubItems(3))));
-  for (std::int32_t i = 1; i <= art.colMartialTechnic.Count(); ++i)
-    if (const auto technic = art.colMartialTechnic(i); technic->bSelected) text += technic->sName + " / ";
+  std::string text = row.Text() + " :" + row.SubItems(ArtRow::Direction) + std::string(crLf);
+  for (const auto& technic : perso.artOf(row).colMartialTechnic)
+    if (technic->bSelected) text += technic->sName + " / ";
   return text + std::string(lineMarker) + std::string(lineMarker);
 }
 
 void printMartialArts(frmFeuille& sheet, const frmPersonnage& perso) {
   std::string sTemp;
   for (const auto& row : perso.lvwMartialArt.rows())
-    if (numericPrefix(row->SubItems(2)) > 0) sTemp += martialArtText(*row, perso);
-  prcPrintInShape(sTemp, sheet.pctVerso, sheet.shpMartialArt, 0, 0);
+    if (number(*row, ArtRow::Points) > 0) sTemp += martialArtText(*row, perso);
+  prcPrintInShape(std::move(sTemp), sheet.pctVerso, sheet.shpMartialArt);
 }
 
 // Names and levels side by side. Each level has a line end behind it, which holds it to the right edge of its box.
@@ -34,7 +34,7 @@ class SkillPrinter {
 
   void add(const ListItem& row) {
     sNames_ += row.Text() + std::string(crLf);
-    sValues_ += row.SubItems(1) + std::string(crLf);
+    sValues_ += row.SubItems(SkillRow::Level) + std::string(crLf);
   }
 
   void endColumn(int column) {

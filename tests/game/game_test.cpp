@@ -5,6 +5,7 @@
 
 #include "canvas/qt_pictures.h"
 #include "editor/frmPersonnage.h"
+#include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 #include "sheet/frmFeuille.h"
 #include "shell/frmMain.h"
@@ -33,7 +34,7 @@ class Game : public ::testing::Test {
   // Some profiles bring a skill that the user has to name before there is a sheet.
   void nameFreeSkills() {
     for (const auto& row : perso->lvwSkillGen.rows())
-      if (isNamedByUser(row->SubItems(2))) row->setText("Vingt-cinq lettres, juste");
+      if (isNamedByUser(number(*row, SkillRow::Key))) row->setText("Vingt-cinq lettres, juste");
   }
   frmFeuille& preview() {
     nameFreeSkills();

@@ -4,7 +4,9 @@
 #include <charconv>
 #include <set>
 
+#include "editor/art_row.h"
 #include "editor/martial_restrict.h"
+#include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 
 namespace orvane::test {
@@ -17,9 +19,9 @@ int whole(const std::string& text) {
   return error == std::errc() && end == text.data() + text.size() ? value : -100000;
 }
 int whole(const TextBox& box) { return whole(box.Text()); }
-int level(const ListItem& row) { return whole(row.SubItems(1)); }
-int levelAtApplication(const ListItem& row) { return whole(row.SubItems(3)); }
-int points(const ListItem& artRow) { return whole(artRow.SubItems(2)); }
+int level(const ListItem& row) { return whole(row.SubItems(SkillRow::Level)); }
+int levelAtApplication(const ListItem& row) { return whole(row.SubItems(SkillRow::StartLevel)); }
+int points(const ListItem& artRow) { return whole(artRow.SubItems(ArtRow::Points)); }
 
 class Check {
  public:
@@ -91,7 +93,7 @@ class Check {
   }
 
   const clsSkill* skillOf(const ListItem& row) const {
-    const auto key = whole(row.SubItems(2));
+    const auto key = whole(row.SubItems(SkillRow::Key));
     const auto found = std::find_if(data_.colSkill.begin(), data_.colSkill.end(),
                                     [key](const auto& skill) { return skill->iKey == key; });
     return found == data_.colSkill.end() ? nullptr : found->get();
