@@ -6,15 +6,15 @@
 
 namespace orvane {
 
-DataFile::DataFile(std::string name, std::string bytes)
-    : name_(std::move(name)), bytes_(std::move(bytes)), rest_(bytes_) {
-  if (bytes_.empty()) RecordLine(name_, number_, {}).fail("fichier vide : attendu une ligne de titre.");
+DataFile::DataFile(Reading& reading, std::string_view name, std::string bytes)
+    : reading_(reading), name_(name), bytes_(std::move(bytes)), rest_(bytes_) {
+  if (bytes_.empty()) RecordLine(reading_, name_, number_, {}).fault(FaultKind::EmptyFile);
   cutLine(rest_);
 }
 
 std::optional<RecordLine> DataFile::readline() {
   if (rest_.empty()) return std::nullopt;
-  return RecordLine(name_, ++number_, cutLine(rest_));
+  return RecordLine(reading_, name_, ++number_, cutLine(rest_));
 }
 
 }  // namespace orvane

@@ -17,78 +17,130 @@ constexpr std::int32_t lastPosition = std::numeric_limits<std::int16_t>::max();
 
 class Loader {
  public:
-  Loader(ReferenceData& data, Files& files, Dialogs& dialogs) : data_(data), files_(files), dialogs_(dialogs) {}
+  Loader(ReferenceData& data, Files& files, Dialogs& dialogs, Reading& reading)
+      : data_(data), files_(files), reading_(reading), tools_{dialogs, [this](std::int16_t iKey) {
+                                                                return technicOf(iKey);
+                                                              }} {}
 
-  void load() {
-    eachLine("ethnie.txt", [&](RecordLine& line) { data_.colEthnie.Add(readEthnie(line)); });
-    eachLine("grade.txt", [&](RecordLine& line) { data_.colGrade.Add(readGrade(line)); });
-    if (eachLine("profil.txt", [&](RecordLine& line) { addProfil(line); }) && data_.iProfilAsserm == 0) {
-      tell("Erreur: pas de profil \"Assermenté\" chargé.", BoxStyle::Critical);
-      return;
+  Technics load() {
+    readInto(data_.colEthnie, ethnieFormat);
+    readInto(data_.colGrade, gradeFormat);
+    const bool read = readInto(data_.colProfil, profilFormat, [this](RecordLine& line) { noteAssermente(line); });
+    if (read && data_.iProfilAsserm == 0) fault(FaultKind::NoAssermente, profilFormat.file);
+    readInto(data_.colSkill, skillFormat);
+    readInto(data_.colMutation, mutationFormat);
+    readInto(colAllTechnic_, martialTechnicFormat, [this](RecordLine&) { noteTechnic(); });
+    readInto(data_.colMartialArt, martialArtFormat);
+    readInto(data_.colDistrict, districtFormat);
+    return std::move(colAllTechnic_);
+  }
+
+ private:
+  // False where the file cannot be read at all. Each line whose record was added is told of.
+  template <class Member, class Record, class Added>
+  bool readInto(Collection<Member>& records, const RecordFormat<Record>& format, Added added) {
+    auto bytes = bytesOf(format.file);
+    if (!bytes) return false;
+    DataFile file(reading_, format.file, std::move(*bytes));
+    while (auto line = file.readline()) {
+      auto record = format.read(*line, tools_);
+      if (!line->isRecord()) continue;
+      records.Add(std::move(record));
+      added(*line);
+      reading_.record();
     }
-    eachLine("skill.txt", [&](RecordLine& line) { data_.colSkill.Add(readSkill(line)); });
-    eachLine("mutation.txt", [&](RecordLine& line) { data_.colMutation.Add(readMutation(line, dialogs_)); });
-    eachLine("martial_technic.txt", [&](RecordLine& line) { addTechnic(line); });
-    eachLine("martial_art.txt", [&](RecordLine& line) { addArt(line); });
-    eachLine("district.txt", [&](RecordLine& line) { data_.colDistrict.Add(readDistrict(line, dialogs_)); });
+    return true;
+  }
+
+  template <class Member, class Record>
+  bool readInto(Collection<Member>& records, const RecordFormat<Record>& format) {
+    return readInto(records, format, [](RecordLine&) {});
+  }
+
+  std::optional<std::string> bytesOf(std::string_view name) {
+    const std::string path = "./" + std::string(name);
+    try {
+      if (files_.fileExists(path)) return files_.read(path);
+      fault(FaultKind::MissingFile, name);
+    } catch (const Failure& failure) {
+      fault(FaultKind::UnreadableFile, name, failure.what());
+    }
+    return std::nullopt;
+  }
+
+  void fault(FaultKind kind, std::string_view file, std::string_view text = {}) {
+    reading_.fault({kind, {.file = file}, 1, text});
+  }
+
+  void noteAssermente(RecordLine& line) {
+    if (data_.colProfil(data_.colProfil.Count())->sName != "Assermenté") return;
+    if (data_.colProfil.Count() > lastPosition)
+      line.fault(FaultKind::AssermenteOutOfReach);
+    else
+      data_.iProfilAsserm = static_cast<std::int16_t>(data_.colProfil.Count());
+  }
+
+  // Of two techniques with one key, arts can only reach the first.
+  void noteTechnic() {
+    const auto& technic = colAllTechnic_(colAllTechnic_.Count());
+    technicByKey_.try_emplace(technic->iKey, technic);
+  }
+
+  std::shared_ptr<clsMartialTechnic> technicOf(std::int16_t iKey) const {
+    const auto found = technicByKey_.find(iKey);
+    return found == technicByKey_.end() ? nullptr : found->second;
+  }
+
+  ReferenceData& data_;
+  Files& files_;
+  Reading& reading_;
+  ReadingTools tools_;
+  Technics colAllTechnic_;
+  std::unordered_map<std::int16_t, std::shared_ptr<clsMartialTechnic>> technicByKey_;
+};
+
+// The reading of a start: tells faults in message boxes, and ends at most of them.
+class ReadingOfAStart : public Reading {
+ public:
+  struct End {};
+
+  explicit ReadingOfAStart(Dialogs& dialogs) : dialogs_(dialogs) {}
+
+  void fault(const Fault& fault) override {
+    switch (fault.kind) {
+      case FaultKind::MissingFile:
+        return tell(describe(fault), BoxStyle::Critical);
+      case FaultKind::UnknownTechnic:
+        return tell(describe(fault), BoxStyle::Exclamation);
+      case FaultKind::NoAssermente:
+        tell(describe(fault), BoxStyle::Critical);
+        throw End();
+      default:
+        tell("error : " + describe(fault), BoxStyle::Plain);
+        throw End();
+    }
   }
 
   void tell(const std::string& prompt, BoxStyle style) { dialogs_.MsgBox(prompt, style, std::string(App::Title)); }
 
  private:
-  // False where there is no such file, which is told.
-  template <class Read>
-  bool eachLine(const std::string& name, Read read) {
-    const std::string path = "./" + name;
-    if (!files_.fileExists(path)) {
-      tell("Fichier " + name + " manquant.", BoxStyle::Critical);
-      return false;
-    }
-    DataFile file(name, files_.read(path));
-    while (auto line = file.readline()) read(*line);
-    return true;
-  }
-
-  void addProfil(RecordLine& line) {
-    auto profil = readProfil(line, dialogs_);
-    const bool isAsserm = profil->sName == "Assermenté";
-    data_.colProfil.Add(std::move(profil));
-    if (!isAsserm) return;
-    if (data_.colProfil.Count() > lastPosition) line.fail("le profil \"Assermenté\" vient au-delà du 32767e profil.");
-    data_.iProfilAsserm = static_cast<std::int16_t>(data_.colProfil.Count());
-  }
-
-  // Of two techniques with one key, arts can only reach the first.
-  void addTechnic(RecordLine& line) {
-    auto technic = readMartialTechnic(line);
-    const std::int16_t key = technic->iKey;
-    colAllTechnic_.try_emplace(key, std::move(technic));
-  }
-
-  void addArt(RecordLine& line) {
-    const auto technic = [&](std::int16_t key) {
-      const auto found = colAllTechnic_.find(key);
-      return found == colAllTechnic_.end() ? nullptr : found->second;
-    };
-    data_.colMartialArt.Add(readMartialArt(line, technic, dialogs_));
-  }
-
-  ReferenceData& data_;
-  Files& files_;
   Dialogs& dialogs_;
-  std::unordered_map<std::int16_t, std::shared_ptr<clsMartialTechnic>> colAllTechnic_;
 };
 
 }  // namespace
 
+Technics readData(ReferenceData& data, Files& files, Dialogs& dialogs, Reading& reading) {
+  return Loader(data, files, dialogs, reading).load();
+}
+
 void prcLoadData(ReferenceData& data, Files& files, Dialogs& dialogs) {
-  Loader loader(data, files, dialogs);
+  ReadingOfAStart reading(dialogs);
   try {
-    loader.load();
-  } catch (const Failure& failure) {
-    loader.tell("error : " + std::string(failure.what()), BoxStyle::Plain);
+    readData(data, files, dialogs, reading);
+  } catch (const ReadingOfAStart::End&) {
+    return;  // what ended it was told
   } catch (const std::bad_alloc&) {
-    loader.tell("error : mémoire insuffisante pour lire les fichiers de données.", BoxStyle::Plain);
+    reading.tell("error : mémoire insuffisante pour lire les fichiers de données.", BoxStyle::Plain);
   }
 }
 

@@ -1,84 +1,103 @@
 #include "data/record_formats.h"
 
 #include "data/return_marker.h"
-#include "surface/desktop.h"
 
 namespace orvane {
+namespace {
 
-std::shared_ptr<clsEthnie> readEthnie(RecordLine& line) {
-  auto ethnie = std::make_shared<clsEthnie>();
-  ethnie->sName = line.text({"sName", "nom de l'ethnie"});
-  ethnie->iMaxD = line.integerToEnd({"iMaxD", "nombre de l'ethnie"});
-  return ethnie;
+using Line = RecordLine;
+
+template <class Record, class Value>
+Record recordOf(Value Record::*);
+template <auto member>
+using RecordOf = decltype(recordOf(member));
+
+template <auto member, auto reading>
+void take(Line& line, const Field& field, RecordOf<member>& record, const ReadingTools&) {
+  record.*member = (line.*reading)(field);
 }
 
-std::shared_ptr<clsGrade> readGrade(RecordLine& line) {
-  auto grade = std::make_shared<clsGrade>();
-  grade->iSalaire = line.integer({"iSalaire", "salaire"});
-  grade->sName = line.text({"sName", "nom du grade"});
-  grade->sDescro = line.textToEnd({"sDescro", "description"});
-  return grade;
+// The same for a text in which "[return]" stands for a line end.
+template <auto member, auto reading>
+void takeEscaped(Line& line, const Field& field, RecordOf<member>& record, const ReadingTools& tools) {
+  record.*member = prcReturnToCrLf((line.*reading)(field), tools.dialogs);
 }
 
-std::shared_ptr<clsProfil> readProfil(RecordLine& line, Dialogs& dialogs) {
-  auto profil = std::make_shared<clsProfil>();
-  profil->sName = line.text({"sName", "nom du profil"});
-  profil->bAsserm = line.boolean({"bAsserm", "profil assermenté ou non"});
-  profil->sDescro = prcReturnToCrLf(line.text({"sDescro", "description"}), dialogs);
-  while (!line.atEnd()) profil->colSkillPro.Add(line.number({"colSkillPro", "clé d'une compétence du profil"}));
-  return profil;
+void takeSkills(Line& line, const Field& field, clsProfil& profil, const ReadingTools&) {
+  while (!line.atEnd()) profil.colSkillPro.Add(line.number(field));
 }
 
-std::shared_ptr<clsSkill> readSkill(RecordLine& line) {
-  auto skill = std::make_shared<clsSkill>();
-  skill->iKey = line.integer({"iKey", "clé de la compétence"});
-  skill->sName = line.text({"sName", "nom de la compétence"});
-  skill->iStart = line.integer({"iStart", "valeur de base"});
-  skill->sDescro = line.textToEnd({"sDescro", "description"});
-  return skill;
-}
-
-std::shared_ptr<clsMutation> readMutation(RecordLine& line, Dialogs& dialogs) {
-  auto mutation = std::make_shared<clsMutation>();
-  mutation->sCateg = line.text({"sCateg", "catégorie"});
-  mutation->sSign = line.text({"sSign", "signe"});
-  mutation->iNum = line.integer({"iNum", "numéro du pouvoir"});
-  mutation->sName = line.text({"sName", "nom du pouvoir"});
-  mutation->sDescro = prcReturnToCrLf(line.textToEnd({"sDescro", "description"}), dialogs);
-  return mutation;
-}
-
-std::shared_ptr<clsMartialTechnic> readMartialTechnic(RecordLine& line) {
-  auto technic = std::make_shared<clsMartialTechnic>();
-  technic->sName = line.text({"sName", "nom de la technique"});
-  technic->sType = line.text({"sType", "type, o ou d"});
-  technic->iKey = line.integer({"iKey", "clé de la technique"});
-  technic->sDescro = line.textToEnd({"sDescro", "description"});
-  return technic;
-}
-
-std::shared_ptr<clsMartialArt> readMartialArt(RecordLine& line, const TechnicFinder& technic, Dialogs& dialogs) {
-  auto art = std::make_shared<clsMartialArt>();
-  art->sName = line.text({"sName", "nom de l'art martial"});
-  art->iRestrictO = line.integer({"iRestrictO", "restriction offensive"});
-  art->iRestrictD = line.integer({"iRestrictD", "restriction défensive"});
-  art->sDescro = prcReturnToCrLf(line.text({"sDescro", "description"}), dialogs);
+void takeTechnics(Line& line, const Field& field, clsMartialArt& art, const ReadingTools& tools) {
   while (!line.atEnd()) {
-    auto found = technic(line.key({"colMartialTechnic", "clé d'une technique de l'art"}));
-    if (found)
-      art->colMartialTechnic.Add(std::move(found));
+    if (auto technic = tools.technic(line.key(field)))
+      art.colMartialTechnic.Add(std::move(technic));
     else
-      dialogs.MsgBox("Il existe une technique martiale inconnue dans " + art->sName, BoxStyle::Exclamation,
-                     std::string(App::Title));
+      line.fault(FaultKind::UnknownTechnic, art.sName);
   }
-  return art;
 }
 
-std::shared_ptr<clsDistrict> readDistrict(RecordLine& line, Dialogs& dialogs) {
-  auto district = std::make_shared<clsDistrict>();
-  district->sName = line.text({"sName", "nom du quartier"});
-  district->sDescro = prcReturnToCrLf(line.textToEnd({"sDescro", "description"}), dialogs);
-  return district;
-}
+constexpr FieldFormat<clsEthnie> ethnieFields[] = {
+    {{"sName", "nom de l'ethnie"}, take<&clsEthnie::sName, &Line::text>},
+    {{"iMaxD", "nombre de l'ethnie"}, take<&clsEthnie::iMaxD, &Line::integerToEnd>},
+};
+
+constexpr FieldFormat<clsGrade> gradeFields[] = {
+    {{"iSalaire", "salaire"}, take<&clsGrade::iSalaire, &Line::integer>},
+    {{"sName", "nom du grade"}, take<&clsGrade::sName, &Line::text>},
+    {{"sDescro", "description"}, take<&clsGrade::sDescro, &Line::textToEnd>},
+};
+
+constexpr FieldFormat<clsProfil> profilFields[] = {
+    {{"sName", "nom du profil"}, take<&clsProfil::sName, &Line::text>},
+    {{"bAsserm", "profil assermenté ou non"}, take<&clsProfil::bAsserm, &Line::boolean>},
+    {{"sDescro", "description"}, takeEscaped<&clsProfil::sDescro, &Line::text>},
+    {{"colSkillPro", "clé d'une compétence du profil"}, takeSkills},
+};
+
+constexpr FieldFormat<clsSkill> skillFields[] = {
+    {{"iKey", "clé de la compétence"}, take<&clsSkill::iKey, &Line::integer>},
+    {{"sName", "nom de la compétence"}, take<&clsSkill::sName, &Line::text>},
+    {{"iStart", "valeur de base"}, take<&clsSkill::iStart, &Line::integer>},
+    {{"sDescro", "description"}, take<&clsSkill::sDescro, &Line::textToEnd>},
+};
+
+constexpr FieldFormat<clsMutation> mutationFields[] = {
+    {{"sCateg", "catégorie"}, take<&clsMutation::sCateg, &Line::text>},
+    {{"sSign", "signe"}, take<&clsMutation::sSign, &Line::text>},
+    {{"iNum", "numéro du pouvoir"}, take<&clsMutation::iNum, &Line::integer>},
+    {{"sName", "nom du pouvoir"}, take<&clsMutation::sName, &Line::text>},
+    {{"sDescro", "description"}, takeEscaped<&clsMutation::sDescro, &Line::textToEnd>},
+};
+
+constexpr FieldFormat<clsMartialTechnic> martialTechnicFields[] = {
+    {{"sName", "nom de la technique"}, take<&clsMartialTechnic::sName, &Line::text>},
+    {{"sType", "type, o ou d"}, take<&clsMartialTechnic::sType, &Line::text>},
+    {{"iKey", "clé de la technique"}, take<&clsMartialTechnic::iKey, &Line::integer>},
+    {{"sDescro", "description"}, take<&clsMartialTechnic::sDescro, &Line::textToEnd>},
+};
+
+constexpr FieldFormat<clsMartialArt> martialArtFields[] = {
+    {{"sName", "nom de l'art martial"}, take<&clsMartialArt::sName, &Line::text>},
+    {{"iRestrictO", "restriction offensive"}, take<&clsMartialArt::iRestrictO, &Line::integer>},
+    {{"iRestrictD", "restriction défensive"}, take<&clsMartialArt::iRestrictD, &Line::integer>},
+    {{"sDescro", "description"}, takeEscaped<&clsMartialArt::sDescro, &Line::text>},
+    {{"colMartialTechnic", "clé d'une technique de l'art"}, takeTechnics},
+};
+
+constexpr FieldFormat<clsDistrict> districtFields[] = {
+    {{"sName", "nom du quartier"}, take<&clsDistrict::sName, &Line::text>},
+    {{"sDescro", "description"}, takeEscaped<&clsDistrict::sDescro, &Line::textToEnd>},
+};
+
+}  // namespace
+
+const RecordFormat<clsEthnie> ethnieFormat{"ethnie.txt", ethnieFields};
+const RecordFormat<clsGrade> gradeFormat{"grade.txt", gradeFields};
+const RecordFormat<clsProfil> profilFormat{"profil.txt", profilFields};
+const RecordFormat<clsSkill> skillFormat{"skill.txt", skillFields};
+const RecordFormat<clsMutation> mutationFormat{"mutation.txt", mutationFields};
+const RecordFormat<clsMartialTechnic> martialTechnicFormat{"martial_technic.txt", martialTechnicFields};
+const RecordFormat<clsMartialArt> martialArtFormat{"martial_art.txt", martialArtFields};
+const RecordFormat<clsDistrict> districtFormat{"district.txt", districtFields};
 
 }  // namespace orvane

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "data/excerpt.h"
 #include "data/windows_1252.h"
 #include "surface/failure.h"
 #include "surface/numbers.h"
@@ -12,13 +10,6 @@
 
 namespace orvane {
 namespace {
-
-constexpr std::string_view anInteger = "un nombre entier de -32768 à 32767";
-constexpr std::string_view anIntegerAtTheEnd = "un nombre entier de -32768 à 32767, sans rien derrière, pas même « ; »";
-constexpr std::string_view aBoolean = "True, False, Vrai, Faux ou un nombre";
-constexpr std::string_view aNumber = "un nombre moins grand";
-constexpr std::string_view aKey = "une clé de -32768 à 32767";
-constexpr std::string_view aSeparator = "« ; » à la fin du champ";
 
 std::int16_t wholeNumber(std::string_view text) { return toInt16(strictNumber(text)); }
 
@@ -39,62 +30,68 @@ bool truth(std::string_view text) {
 
 }  // namespace
 
-std::string RecordLine::text(Field field) { return decoded(field, cut(field)); }
+std::string RecordLine::text(const Field& field) { return decoded(cut(field)); }
 
-std::string RecordLine::textToEnd(Field field) { return decoded(field, cutToEnd()); }
+std::string RecordLine::textToEnd(const Field& field) { return decoded(cutToEnd(field)); }
 
-std::int16_t RecordLine::integer(Field field) { return converted(field, cut(field), anInteger, wholeNumber); }
+std::int16_t RecordLine::integer(const Field& field) { return converted(cut(field), FaultKind::Integer, wholeNumber); }
 
-std::int16_t RecordLine::integerToEnd(Field field) {
-  return converted(field, cutToEnd(), anIntegerAtTheEnd, wholeNumber);
+std::int16_t RecordLine::integerToEnd(const Field& field) {
+  return converted(cutToEnd(field), FaultKind::IntegerToEnd, wholeNumber);
 }
 
-bool RecordLine::boolean(Field field) { return converted(field, cut(field), aBoolean, truth); }
+bool RecordLine::boolean(const Field& field) { return converted(cut(field), FaultKind::Boolean, truth); }
 
-double RecordLine::number(Field field) { return converted(field, cut(field), aNumber, finitePrefix); }
+double RecordLine::number(const Field& field) { return converted(cut(field), FaultKind::Number, finitePrefix); }
 
-std::int16_t RecordLine::key(Field field) { return converted(field, cut(field), aKey, keyPrefix); }
+std::int16_t RecordLine::key(const Field& field) { return converted(cut(field), FaultKind::Key, keyPrefix); }
 
-std::string_view RecordLine::cut(Field field) {
+std::string_view RecordLine::cut(const Field& field) {
   const auto separator = rest_.find(';');
-  const std::string_view bytes = rest_.substr(0, separator);
-  ++position_;
-  if (separator == std::string_view::npos) failIn(field, excerpt(bytes), aSeparator);
-  rest_.remove_prefix(separator + 1);
+  const auto bytes = take(field, separator);
+  if (separator != std::string_view::npos) {
+    rest_.remove_prefix(1);
+  } else {
+    report({FaultKind::Separator, last_, static_cast<std::int32_t>(line_.size()) + 1});
+    if (brokenAt_ == 0) brokenAt_ = last_.position;
+  }
   return bytes;
 }
 
-std::string_view RecordLine::cutToEnd() {
-  ++position_;
-  return std::exchange(rest_, {});
+std::string_view RecordLine::cutToEnd(const Field& field) { return take(field, rest_.size()); }
+
+std::string_view RecordLine::take(const Field& field, std::size_t length) {
+  last_.column = static_cast<std::int32_t>(line_.size() - rest_.size()) + 1;
+  last_.bytes = rest_.substr(0, length);
+  last_.field = field;
+  ++last_.position;
+  rest_.remove_prefix(last_.bytes.size());
+  reading_.field(last_);
+  return last_.bytes;
 }
 
-std::string RecordLine::decoded(Field field, std::string_view bytes) const {
+std::string RecordLine::decoded(std::string_view bytes) {
   const auto wrong = std::find_if_not(bytes.begin(), bytes.end(), inWindows1252);
   if (wrong != bytes.end())
-    failIn(field, excerpt(bytes, static_cast<std::size_t>(wrong - bytes.begin())),
-           "un texte en Windows-1252, qui n'a pas de caractère <" + hexadecimal(*wrong) + ">");
+    report({FaultKind::Character, last_, last_.column + static_cast<std::int32_t>(wrong - bytes.begin())});
   return fromWindows1252(bytes);
 }
 
 template <class Value>
-Value RecordLine::converted(Field field, std::string_view bytes, std::string_view expected,
-                            Value (*convert)(std::string_view)) const {
-  const std::string text = decoded(field, bytes);
+Value RecordLine::converted(std::string_view bytes, FaultKind expected, Value (*convert)(std::string_view)) {
+  const std::string text = decoded(bytes);
   try {
     return convert(text);
   } catch (const Failure&) {
-    failIn(field, excerpt(bytes), expected);
+    fault(expected);
+    return {};
   }
 }
 
-void RecordLine::failIn(Field field, const std::string& found, std::string_view expected) const {
-  fail("champ " + std::to_string(position_) + " (" + std::string(field.member) + ", " + std::string(field.meaning) +
-       ") : trouvé " + found + ", attendu " + std::string(expected) + ".");
-}
-
-void RecordLine::fail(const std::string& reason) const {
-  throw Failure("fichier " + std::string(file_) + ", ligne " + std::to_string(number_) + ", " + reason);
+void RecordLine::report(const Fault& fault) {
+  if (brokenAt_ != 0 || faultyField_ == last_.position) return;
+  faultyField_ = last_.position;
+  reading_.fault(fault);
 }
 
 }  // namespace orvane

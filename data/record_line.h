@@ -1,57 +1,55 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <string>
-#include <string_view>
+
+#include "data/reading.h"
 
 namespace orvane {
 
-// A field of a record, as a failure names it: the member that it fills and what that means, in French.
-struct Field {
-  std::string_view member;
-  std::string_view meaning;
-};
-
 // One line of a data file, cut into its fields from the left. Each reading takes the next field.
-// All readings fail, with the place and what was expected there, where the text does not suit or holds a byte that is
-// no character; all but the ...ToEnd also where no ";" stands behind the field.
+// Text that does not suit, a byte that is no character and, but for the ...ToEnd, a field without a ";" behind it are
+// faults, the first one of each field alone, and none behind a missing ";". Where the reading goes on behind a fault,
+// the value is 0, false or as much of the text as there is.
 class RecordLine {
  public:
-  // The number counts the title line as 1. The bytes are Windows-1252 and outlive the RecordLine.
-  RecordLine(std::string_view file, std::int32_t number, std::string_view bytes)
-      : file_(file), number_(number), rest_(bytes) {}
+  // The number counts the title line as 1. The bytes are Windows-1252 and outlive the RecordLine, as does the name.
+  RecordLine(Reading& reading, std::string_view file, std::int32_t number, std::string_view bytes)
+      : reading_(reading), line_(bytes), rest_(bytes), last_{.file = file, .line = number} {}
 
-  std::string text(Field field);
+  std::string text(const Field& field);
   // All that is left of the line; may hold ";".
-  std::string textToEnd(Field field);
+  std::string textToEnd(const Field& field);
   // A number, rounded to the nearest whole one, a half to the even neighbour; -32768 to 32767.
-  std::int16_t integer(Field field);
-  std::int16_t integerToEnd(Field field);
+  std::int16_t integer(const Field& field);
+  std::int16_t integerToEnd(const Field& field);
   // A word for true or false, or a number, 0 being false.
-  bool boolean(Field field);
+  bool boolean(const Field& field);
   // The number that the field begins with, 0 without one.
-  double number(Field field);
+  double number(const Field& field);
   // The same, rounded to -32768 to 32767.
-  std::int16_t key(Field field);
+  std::int16_t key(const Field& field);
 
   bool atEnd() const { return rest_.empty(); }
-  // Fails with the place in the file and this reason.
-  [[noreturn]] void fail(const std::string& reason) const;
+  // False where not even the first field has a ";" behind it: reading may go on, but this line is no record.
+  bool isRecord() const { return brokenAt_ != 1; }
+  // A fault in the field last taken, or in the line before the first one.
+  void fault(FaultKind kind, std::string_view text = {}) { report({kind, last_, last_.column, text}); }
 
  private:
-  std::string_view cut(Field field);
-  std::string_view cutToEnd();
-  std::string decoded(Field field, std::string_view bytes) const;
+  std::string_view cut(const Field& field);
+  std::string_view cutToEnd(const Field& field);
+  std::string_view take(const Field& field, std::size_t length);
+  std::string decoded(std::string_view bytes);
   template <class Value>
-  Value converted(Field field, std::string_view bytes, std::string_view expected,
-                  Value (*convert)(std::string_view)) const;
-  [[noreturn]] void failIn(Field field, const std::string& found, std::string_view expected) const;
+  Value converted(std::string_view bytes, FaultKind expected, Value (*convert)(std::string_view));
+  void report(const Fault& fault);
 
-  std::string_view file_;
-  std::int32_t number_;
+  Reading& reading_;
+  std::string_view line_;
   std::string_view rest_;
-  int position_ = 0;
+  FieldText last_;
+  int faultyField_ = -1;  // the last one
+  int brokenAt_ = 0;      // the field without a ";", behind which nothing is sure; 0 for none
 };
 
 }  // namespace orvane
