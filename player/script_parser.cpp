@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <unicode/ustring.h>
 
-#include "player/acts.h"
+#include "player/act_kinds.h"
 #include "surface/text.h"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 #include "player/script_player.h"
 
-#include "player/acts.h"
+#include "player/act_kinds.h"
 #include "shell/frmMain.h"
 
 namespace orvane {

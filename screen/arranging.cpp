@@ -19,7 +19,7 @@ WindowList those(const WindowList& windows, bool minimized) {
 void place(ChildWindow& window, const QRect& where) {
   if (window.isMaximized()) window.showNormal();
   window.move(where.topLeft());
-  if (window.isResizable()) window.resize(where.size());
+  if (window.form().isResizable()) window.resize(where.size());
 }
 
 void cascade(const QSize& room, const WindowList& windows) {

@@ -32,14 +32,13 @@ Qt::WindowFlags frameFlags(bool resizable) {
 
 }  // namespace
 
-ChildWindow::ChildWindow(Form& form, Acts& acts)
-    : acts_(acts), resizable_(form.Name() == "frmFeuille"), pane_(new QWidget) {
+ChildWindow::ChildWindow(Form& form, ScreenDoor& door) : door_(door), pane_(new QWidget) {
   layOut(form, *pane_);
   setWidget(pane_);
-  setWindowFlags(frameFlags(resizable_));
+  setWindowFlags(frameFlags(form.isResizable()));
   setWindowIcon(QIcon(":/art/icons/orvane-16.png"));
   setObjectName(toQt(form.Name()) + "_window");
-  view_ = std::make_unique<FormView>(form, *pane_, acts);
+  view_ = std::make_unique<FormView>(form, *pane_, door);
   showCaption();
   answerEscape();
 }
@@ -49,7 +48,7 @@ void ChildWindow::answerEscape() {
   if (!cancel) return;
   auto* escape = new QShortcut(Qt::Key_Escape, pane_, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
   connect(escape, &QShortcut::activated, pane_,
-          [this, cancel] { acts_.perform([cancel](User& user) { user.click(*cancel); }); });
+          [this, cancel] { door_.act([cancel](User& user) { user.click(*cancel); }); });
 }
 
 void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
@@ -59,7 +58,7 @@ void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
   pane_->setFixedSize(design);
   adjustSize();
   const QSize frame = size() - design;
-  if (!resizable_) return;
+  if (!form().isResizable()) return;
   pane_->setMinimumSize(0, 0);
   pane_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   const int height = std::min(heightOfContents(form()), room.height() - corner.y() - frame.height());
@@ -83,7 +82,7 @@ void ChildWindow::end() {
 
 void ChildWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  acts_.perform([this](User& user) { user.close(form()); });
+  door_.act([this](User& user) { user.close(form()); });
 }
 
 }  // namespace orvane

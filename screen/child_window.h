@@ -11,12 +11,10 @@ namespace orvane {
 // A child window of the main window. It closes when its form is unloaded, and not before.
 class ChildWindow final : public QMdiSubWindow {
  public:
-  ChildWindow(Form& form, Acts& acts);
+  ChildWindow(Form& form, ScreenDoor& door);
 
   Form& form() const { return view_->form(); }
   FormView& view() const { return *view_; }
-  // True for the windows whose size the user may change.
-  bool isResizable() const { return resizable_; }
   // At that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
@@ -31,8 +29,7 @@ class ChildWindow final : public QMdiSubWindow {
  private:
   void answerEscape();
 
-  Acts& acts_;
-  bool resizable_;
+  ScreenDoor& door_;
   QWidget* pane_;
   std::unique_ptr<FormView> view_;
 };

@@ -16,12 +16,12 @@
 
 namespace orvane {
 
-DialogWindow::DialogWindow(Form& form, Acts& acts, QWidget* parent) : QDialog(parent), acts_(acts) {
+DialogWindow::DialogWindow(Form& form, ScreenDoor& door, QWidget* parent) : QDialog(parent), door_(door) {
   layOut(form, *this);
   setObjectName(toQt(form.Name()) + "_window");
   // A dialog without a caption has no frame either.
   if (form.Caption().empty()) setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-  view_ = std::make_unique<FormView>(form, *this, acts);
+  view_ = std::make_unique<FormView>(form, *this, door);
   showCaption();
 }
 
@@ -76,13 +76,13 @@ void DialogWindow::end() {
 
 void DialogWindow::reject() {
   if (auto* cancel = cancelButton(form()))
-    acts_.perform([cancel](User& user) { user.click(*cancel); });
+    door_.act([cancel](User& user) { user.click(*cancel); });
   else
     close();
 }
 
 void DialogWindow::close() {
-  acts_.perform([this](User& user) { user.close(form()); });
+  door_.act([this](User& user) { user.close(form()); });
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

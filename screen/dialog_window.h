@@ -14,7 +14,7 @@ namespace orvane {
 // before.
 class DialogWindow final : public QDialog {
  public:
-  DialogWindow(Form& form, Acts& acts, QWidget* parent);
+  DialogWindow(Form& form, ScreenDoor& door, QWidget* parent);
 
   Form& form() const { return view_->form(); }
   FormView& view() const { return *view_; }
@@ -37,7 +37,7 @@ class DialogWindow final : public QDialog {
   void close();
   void centre();
 
-  Acts& acts_;
+  ScreenDoor& door_;
   std::unique_ptr<FormView> view_;
   QEventLoop* loop_ = nullptr;
 };

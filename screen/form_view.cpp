@@ -17,7 +17,8 @@ QString widgetName(const Control& control) {
   return control.Index() ? QString("%1_%2").arg(name).arg(*control.Index()) : name;
 }
 
-FormView::FormView(Form& form, QWidget& root, Acts& acts) : form_(form.shared_from_this()), root_(root), acts_(acts) {
+FormView::FormView(Form& form, QWidget& root, ScreenDoor& door)
+    : form_(form.shared_from_this()), root_(root), door_(door) {
   makeViews();
   followFocus();
   root_.installEventFilter(this);
@@ -40,12 +41,6 @@ View* FormView::viewOf(const Control& control) const {
   for (auto& view : views_)
     if (&view->control() == &control) return view.get();
   return nullptr;
-}
-
-void FormView::act(View& view, const std::function<void(User&)>& deed) {
-  if (detached_ || syncing_) return;
-  acts_.perform(deed);
-  schedule(view);
 }
 
 void FormView::schedule(View& view) {
@@ -92,7 +87,7 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 void FormView::focusEntered(QObject* widget) {
   for (auto& view : views_) {
     if (!view->control().takesFocus() || &view->focusWidget() != widget) continue;
-    act(*view, [&](User& user) { user.focus(view->control()); });
+    view->act([&](User& user) { user.focus(view->control()); });
     return;
   }
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
 #include <QObject>
 #include <QWidget>
 
-#include "screen/acts.h"
+#include "screen/screen_door.h"
 #include "screen/view.h"
 #include "surface/form.h"
 
@@ -18,7 +17,7 @@ namespace orvane {
 class FormView : public QObject {
  public:
   // Throws std::logic_error for a control that has no widget of its kind.
-  FormView(Form& form, QWidget& root, Acts& acts);
+  FormView(Form& form, QWidget& root, ScreenDoor& door);
   ~FormView() override;
 
   Form& form() const { return *form_; }
@@ -26,7 +25,10 @@ class FormView : public QObject {
   // None for a control that is not on the screen.
   View* viewOf(const Control& control) const;
 
-  void act(View& view, const std::function<void(User&)>& deed);
+  ScreenDoor& door() const { return door_; }
+  // While the views are brought up to date; what widgets report meanwhile is no act.
+  bool isSyncing() const { return syncing_; }
+  // Brings a view up to date at the next turn.
   void schedule(View& view);
   // Shows now what waits for the next turn.
   void flush();
@@ -42,7 +44,7 @@ class FormView : public QObject {
 
   std::shared_ptr<Form> form_;
   QWidget& root_;
-  Acts& acts_;
+  ScreenDoor& door_;
   std::vector<std::unique_ptr<View>> views_;
   std::vector<View*> dirty_;
   bool flushPosted_ = false;

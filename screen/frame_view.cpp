@@ -7,7 +7,7 @@
 namespace orvane {
 
 FrameView::FrameView(Frame& frame, QWidget& box, FormView& form) : View(frame, box, form) {
-  if (auto* group = qobject_cast<QGroupBox*>(&box)) group->setTitle(toQt(frame.Caption()));
+  if (auto* group = dynamic_cast<QGroupBox*>(&box)) group->setTitle(toQt(frame.Caption()));
 }
 
 }  // namespace orvane

@@ -6,6 +6,11 @@
 #include <QDialog>
 #include <QLayout>
 
+#include "editor/frmContact.h"
+#include "editor/frmPersonnage.h"
+#include "sheet/frmFeuille.h"
+#include "shell/FrmReadMe.h"
+#include "shell/frmSplash.h"
 #include "ui_FrmReadMe.h"
 #include "ui_frmContact.h"
 #include "ui_frmFeuille.h"
@@ -15,27 +20,24 @@
 namespace orvane {
 namespace {
 
-template <class Layout, class Window>
-void fill(QWidget& window) {
-  Layout().setupUi(qobject_cast<Window*>(&window));
+template <class FormKind, class Layout, class Window>
+bool fill(const Form& form, QWidget& window) {
+  if (!dynamic_cast<const FormKind*>(&form)) return false;
+  Layout().setupUi(dynamic_cast<Window*>(&window));
+  return true;
 }
 
-struct FormLayout {
-  std::string_view form;
-  void (*fill)(QWidget&);
-};
-
-constexpr FormLayout layouts[] = {
-    {"frmPersonnage", fill<Ui::frmPersonnage, QWidget>}, {"frmContact", fill<Ui::frmContact, QDialog>},
-    {"frmFeuille", fill<Ui::frmFeuille, QWidget>},       {"frmSplash", fill<Ui::frmSplash, QDialog>},
-    {"FrmReadMe", fill<Ui::FrmReadMe, QWidget>},
+constexpr bool (*layouts[])(const Form&, QWidget&) = {
+    fill<frmPersonnage, Ui::frmPersonnage, QWidget>, fill<frmContact, Ui::frmContact, QDialog>,
+    fill<frmFeuille, Ui::frmFeuille, QWidget>,       fill<frmSplash, Ui::frmSplash, QDialog>,
+    fill<FrmReadMe, Ui::FrmReadMe, QWidget>,
 };
 
 }  // namespace
 
 void layOut(const Form& form, QWidget& window) {
   for (const auto& layout : layouts)
-    if (layout.form == form.Name()) return layout.fill(window);
+    if (layout(form, window)) return;
   throw std::logic_error(form.Name() + " has no layout");
 }
 

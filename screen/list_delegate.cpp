@@ -27,7 +27,7 @@ void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
 bool ListDelegate::eventFilter(QObject* editor, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (auto* widget = qobject_cast<QWidget*>(editor); widget && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
+    if (auto* widget = dynamic_cast<QWidget*>(editor); widget && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
       emit commitData(widget);
       emit closeEditor(widget, NoHint);
       return true;
@@ -37,7 +37,7 @@ bool ListDelegate::eventFilter(QObject* editor, QEvent* event) {
 }
 
 void ListDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const {
-  if (const auto* edit = qobject_cast<QLineEdit*>(editor)) typed_(edit->text());
+  if (const auto* edit = dynamic_cast<QLineEdit*>(editor)) typed_(edit->text());
 }
 
 }  // namespace orvane

@@ -219,7 +219,7 @@ void ListViewView::toggle(QTreeWidgetItem* item) {
 void ListViewView::beginEdit() {
   if (edited_ || !canBeReached()) return;
   bool allowed = false;
-  perform([&] { allowed = list_.beginEdit(); });
+  act([&](User&) { allowed = list_.beginEdit(); });
   if (!allowed || isDetached()) return;
   edited_ = list_.SelectedItem();
   tree_.editItem(tree_.topLevelItem(edited_->Index() - 1), 0);
@@ -232,7 +232,7 @@ bool ListViewView::canBeReached() const {
 }
 
 void ListViewView::endEdit(const QString& text) {
-  if (auto row = std::exchange(edited_, nullptr)) perform([&] { list_.endEdit(row, fromQt(text)); });
+  if (auto row = std::exchange(edited_, nullptr)) act([&](User&) { list_.endEdit(row, fromQt(text)); });
 }
 
 }  // namespace orvane

@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-void addEntry(QMenu& menu, MenuItem& entry, Acts& acts) {
+void addEntry(QMenu& menu, MenuItem& entry, ScreenDoor& door) {
   if (entry.isSeparator()) {
     menu.addSeparator()->setObjectName(toQt(entry.Name()));
     return;
@@ -17,7 +17,7 @@ void addEntry(QMenu& menu, MenuItem& entry, Acts& acts) {
   action->setObjectName(toQt(entry.Name()));
   if (!entry.shortcut().empty()) action->setShortcut(QKeySequence(toQt(entry.shortcut())));
   QObject::connect(action, &QAction::triggered, &menu,
-                   [&entry, &acts] { acts.perform([&](User& user) { user.click(entry); }); });
+                   [&entry, &door] { door.act([&](User& user) { user.click(entry); }); });
 }
 
 QString listed(int number, const Form& form) {
@@ -25,29 +25,29 @@ QString listed(int number, const Form& form) {
   return number < 10 ? QString("&%1 %2").arg(number).arg(caption) : QString("%1 %2").arg(number).arg(caption);
 }
 
-void listWindows(QMenu& menu, int entries, Acts& acts) {
+void listWindows(QMenu& menu, int entries, const Desktop& desktop, ScreenDoor& door) {
   while (menu.actions().size() > entries) delete menu.actions().last();
   int number = 0;
-  for (const auto& form : acts.desktop().Forms()) {
+  for (const auto& form : desktop.Forms()) {
     if (form->role() != Form::Role::Child || !form->isVisible()) continue;
     if (++number == 1) menu.addSeparator();
     QAction* action = menu.addAction(listed(number, *form));
     action->setCheckable(true);
-    action->setChecked(acts.desktop().activeChild() == form.get());
-    QObject::connect(action, &QAction::triggered, &menu, [window = std::weak_ptr(form), &acts] {
-      if (const auto open = window.lock()) acts.perform([&](User& user) { user.activate(*open); });
+    action->setChecked(desktop.activeChild() == form.get());
+    QObject::connect(action, &QAction::triggered, &menu, [window = std::weak_ptr(form), &door] {
+      if (const auto open = window.lock()) door.act([&](User& user) { user.activate(*open); });
     });
   }
 }
 
 }  // namespace
 
-void fillMenu(QMenuBar& bar, frmMain& frame, Acts& acts) {
+void fillMenu(QMenuBar& bar, frmMain& frame, ScreenDoor& door) {
   QMenu* menu = nullptr;
   for (auto* control : frame.controls()) {
-    auto& entry = static_cast<MenuItem&>(*control);
+    auto& entry = dynamic_cast<MenuItem&>(*control);
     if (entry.level() == 2) {
-      addEntry(*menu, entry, acts);
+      addEntry(*menu, entry, door);
       continue;
     }
     menu = bar.addMenu(toQt(entry.Caption()));
@@ -56,7 +56,7 @@ void fillMenu(QMenuBar& bar, frmMain& frame, Acts& acts) {
   auto* windows = bar.findChild<QMenu*>(toQt(frame.mnuWindow.Name()));
   const auto entries = static_cast<int>(windows->actions().size());
   QObject::connect(windows, &QMenu::aboutToShow, windows,
-                   [windows, entries, &acts] { listWindows(*windows, entries, acts); });
+                   [windows, entries, &frame, &door] { listWindows(*windows, entries, frame.desktop(), door); });
 }
 
 }  // namespace orvane

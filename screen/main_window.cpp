@@ -45,8 +45,8 @@ int stateNumber(Qt::WindowStates state) {
 
 }  // namespace
 
-MainWindow::MainWindow(frmMain& frame, Acts& acts)
-    : alive_(frame.shared_from_this()), frame_(frame), acts_(acts), area_(*new QMdiArea(this)) {
+MainWindow::MainWindow(frmMain& frame, ScreenDoor& door)
+    : alive_(frame.shared_from_this()), frame_(frame), door_(door), area_(*new QMdiArea(this)) {
   setObjectName(toQt(frame_.Name()) + "_window");
   setWindowTitle(toQt(frame_.Caption()));
   setWindowIcon(QIcon(":/art/icons/orvane-128.png"));
@@ -55,7 +55,7 @@ MainWindow::MainWindow(frmMain& frame, Acts& acts)
   area_.setActivationOrder(QMdiArea::ActivationHistoryOrder);
   area_.setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
   setCentralWidget(&area_);
-  fillMenu(*menuBar(), frame_, acts_);
+  fillMenu(*menuBar(), frame_, door_);
   addKeys();
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) { bringIntoSight(focus); });
 }
@@ -87,13 +87,13 @@ void MainWindow::addKeys() {
   const auto key = [this](const char* sequence, auto reaction) {
     connect(new QShortcut(QKeySequence(sequence), this), &QShortcut::activated, this, reaction);
   };
-  key("F1", [this] { acts_.perform([this](User& user) { user.click(frame_.mnuHelpContents); }); });
+  key("F1", [this] { door_.act([this](User& user) { user.click(frame_.mnuHelpContents); }); });
   key("Ctrl+Tab", [this] { activateBeside(1); });
   key("Ctrl+Shift+Tab", [this] { activateBeside(-1); });
 }
 
 void MainWindow::activateBeside(int step) {
-  const Desktop& desktop = acts_.desktop();
+  const Desktop& desktop = frame_.desktop();
   std::vector<Form*> open;
   for (const auto& form : desktop.Forms())
     if (form->role() == Form::Role::Child && form->isVisible()) open.push_back(form.get());
@@ -101,7 +101,7 @@ void MainWindow::activateBeside(int step) {
   if (count < 2) return;
   const auto here = std::find(open.begin(), open.end(), desktop.activeChild()) - open.begin();
   Form& next = *open[static_cast<std::size_t>((here + step + count) % count)];
-  acts_.perform([&](User& user) { user.activate(next); });
+  door_.act([&](User& user) { user.activate(next); });
 }
 
 void MainWindow::open() {
@@ -139,7 +139,7 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  acts_.perform([this](User& user) { user.close(frame_); });
+  door_.act([this](User& user) { user.close(frame_); });
 }
 
 }  // namespace orvane

@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 
-#include "screen/acts.h"
+#include "screen/screen_door.h"
 #include "shell/frmMain.h"
 
 namespace orvane {
@@ -11,7 +11,7 @@ namespace orvane {
 // The frame around all child windows. What the user does to its place and state is reported to the form.
 class MainWindow final : public QMainWindow {
  public:
-  MainWindow(frmMain& frame, Acts& acts);
+  MainWindow(frmMain& frame, ScreenDoor& door);
   ~MainWindow() override;
 
   QMdiArea& area() { return area_; }
@@ -34,7 +34,7 @@ class MainWindow final : public QMainWindow {
 
   std::shared_ptr<Form> alive_;
   frmMain& frame_;
-  Acts& acts_;
+  ScreenDoor& door_;
   QMdiArea& area_;
   bool open_ = false;
 };

@@ -16,6 +16,7 @@
 #include "screen/scroll_bar_view.h"
 #include "screen/tab_control_view.h"
 #include "screen/text_box_view.h"
+#include "surface/shape.h"
 
 namespace orvane {
 namespace {
@@ -25,7 +26,7 @@ using Maker = std::unique_ptr<View> (*)(Control&, QWidget&, FormView&);
 template <class ControlKind, class WidgetKind, class ViewKind>
 std::unique_ptr<View> make(Control& control, QWidget& widget, FormView& form) {
   auto* kind = dynamic_cast<ControlKind*>(&control);
-  auto* shown = qobject_cast<WidgetKind*>(&widget);
+  auto* shown = dynamic_cast<WidgetKind*>(&widget);
   if (!kind || !shown) return nullptr;
   return std::make_unique<ViewKind>(*kind, *shown, form);
 }
@@ -49,8 +50,6 @@ constexpr Maker makers[] = {
     make<RichTextBox, QTextBrowser, RichTextBoxView>,
 };
 
-bool hasNoWidget(const Control& control) { return control.kind() == "rectangle" || control.kind() == "menu"; }
-
 [[noreturn]] void missing(const Control& control, const std::string& what) {
   throw std::logic_error(control.form().Name() + ": " + control.id() + " has no widget" + what);
 }
@@ -58,7 +57,7 @@ bool hasNoWidget(const Control& control) { return control.kind() == "rectangle" 
 }  // namespace
 
 std::unique_ptr<View> makeView(Control& control, FormView& form) {
-  if (hasNoWidget(control)) return nullptr;
+  if (dynamic_cast<const Shape*>(&control)) return nullptr;  // its picture paints it
   auto* widget = form.root().findChild<QWidget*>(widgetName(control));
   if (!widget) missing(control, "");
   for (const auto& maker : makers)

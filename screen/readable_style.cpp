@@ -55,7 +55,7 @@ bool hasFaintEdges(const QStyle& style, const QPalette& palette) {
 
 // The frame of a group begins below its title.
 QRect frameOf(QStyle::PrimitiveElement element, const QStyleOption& option, const QWidget* widget) {
-  const auto* group = element == QStyle::PE_FrameGroupBox ? qobject_cast<const QGroupBox*>(widget) : nullptr;
+  const auto* group = element == QStyle::PE_FrameGroupBox ? dynamic_cast<const QGroupBox*>(widget) : nullptr;
   if (!group || group->title().isEmpty()) return option.rect;
   return option.rect.adjusted(0, group->fontMetrics().height() + 3, 0, 0);
 }

@@ -63,10 +63,10 @@ Answer answerOf(int pressed) {
 class Waiting {
  public:
   explicit Waiting(Windows* windows) : windows_(windows) {
-    if (windows_) windows_->acts().suspend();
+    if (windows_) windows_->door().suspend();
   }
   ~Waiting() {
-    if (windows_) windows_->acts().resume();
+    if (windows_) windows_->door().resume();
   }
   Waiting(const Waiting&) = delete;
   Waiting& operator=(const Waiting&) = delete;

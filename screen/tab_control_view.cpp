@@ -14,7 +14,7 @@ TabControlView::TabControlView(TabControl& tabs, QTabWidget& widget, FormView& f
     : View(tabs, widget, form), tabs_(tabs), widget_(widget) {
   auto* bar = widget_.tabBar();
   bar->setFocusPolicy(Qt::StrongFocus);
-  for (QWidget* part : {static_cast<QWidget*>(&widget_), static_cast<QWidget*>(bar)})
+  for (QWidget* part : std::initializer_list<QWidget*>{&widget_, bar})
     if (part->accessibleName().isEmpty()) part->setAccessibleName(QStringLiteral("Onglets"));
   for (int i = 0; i < widget_.count() && i < tabs_.Tabs(); ++i)
     widget_.setTabText(i, withoutMnemonics(tabs_.TabCaption(i)));

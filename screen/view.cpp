@@ -37,12 +37,10 @@ void View::detach() {
 
 void View::controlChanged(Control&) { form_.schedule(*this); }
 
-void View::act(const std::function<void(User&)>& deed) {
-  if (!detached_) form_.act(*this, deed);
-}
-
-void View::perform(const std::function<void()>& step) {
-  act([&](User&) { form_.form().desktop().perform(step); });
+void View::act(const Deed& deed) {
+  if (detached_ || form_.isSyncing()) return;
+  form_.door().act(deed);
+  form_.schedule(*this);
 }
 
 View* View::viewOf(const Control& other) const { return form_.viewOf(other); }

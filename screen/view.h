@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QWidget>
 
+#include "screen/screen_door.h"
 #include "surface/control.h"
-#include "surface/user.h"
 
 namespace orvane {
 
@@ -29,6 +29,8 @@ class View : public ControlObserver {
   void sync();
   // The form has ended: from now on neither side hears of the other.
   void detach();
+  // Does one act of the user, then brings the widget back to what the control says.
+  void act(const Deed& deed);
 
   void controlChanged(Control& control) override;
 
@@ -36,10 +38,6 @@ class View : public ControlObserver {
   // What the kind shows beyond enabled and visible. Writes with the signals of the widget blocked.
   virtual void show() = 0;
 
-  // Does one act of the user, then brings the widget back to what the control says.
-  void act(const std::function<void(User&)>& deed);
-  // Runs what belongs to an act but has no name of its own among the acts.
-  void perform(const std::function<void()>& step);
   bool isDetached() const { return detached_; }
   // Of another control of the form; none when it is not on the screen.
   View* viewOf(const Control& other) const;

@@ -18,7 +18,7 @@ Window* windowOf(const std::vector<Window*>& windows, const Form& form) {
 
 }  // namespace
 
-Windows::Windows(Desktop& desktop) : desktop_(desktop), acts_(desktop) { desktop_.watch(*this); }
+Windows::Windows(Desktop& desktop) : desktop_(desktop), door_(desktop) { desktop_.watch(*this); }
 
 Windows::~Windows() {
   desktop_.unwatch(*this);
@@ -48,7 +48,7 @@ void Windows::shown(Form& form) {
 }
 
 void Windows::showFrame(Form& form) {
-  main_ = std::make_unique<MainWindow>(static_cast<frmMain&>(form), acts_);
+  main_ = std::make_unique<MainWindow>(dynamic_cast<frmMain&>(form), door_);
   QObject::connect(&main_->area(), &QMdiArea::subWindowActivated, &main_->area(),
                    [this](QMdiSubWindow* window) { activatedByUser(window); });
   main_->open();
@@ -58,7 +58,7 @@ void Windows::showChild(Form& form) {
   const QScopedValueRollback following(following_, true);
   auto* window = childOf(form);
   if (!window) {
-    window = new ChildWindow(form, acts_);
+    window = new ChildWindow(form, door_);
     main_->area().addSubWindow(window, window->windowFlags());
     window->openAt(freeCorner(), main_->area().viewport()->size());
     children_.push_back(window);
@@ -80,7 +80,7 @@ QPoint Windows::freeCorner() const {
 
 DialogWindow& Windows::openDialog(Form& form) {
   if (auto* open = dialogOf(form)) return *open;
-  return *dialogs_.emplace_back(new DialogWindow(form, acts_, main_.get()));
+  return *dialogs_.emplace_back(new DialogWindow(form, door_, main_.get()));
 }
 
 void Windows::runModal(Form& form) {
@@ -123,7 +123,7 @@ void Windows::bringToFront(ChildWindow& window) {
 void Windows::activatedByUser(QMdiSubWindow* window) {
   auto* child = dynamic_cast<ChildWindow*>(window);
   if (following_ || !child || desktop_.activeChild() == &child->form()) return;
-  const bool done = acts_.perform([&](User& user) { user.activate(child->form()); });
+  const bool done = door_.act([&](User& user) { user.activate(child->form()); });
   if (!done && desktop_.activeChild()) activated(*desktop_.activeChild());
 }
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <vector>
 
-#include "screen/acts.h"
 #include "screen/child_window.h"
 #include "screen/dialog_window.h"
 #include "screen/main_window.h"
+#include "screen/screen_door.h"
 #include "surface/desktop.h"
 
 namespace orvane {
@@ -18,7 +18,7 @@ class Windows final : public DesktopObserver {
   explicit Windows(Desktop& desktop);
   ~Windows() override;
 
-  Acts& acts() { return acts_; }
+  ScreenDoor& door() { return door_; }
   MainWindow* mainWindow() const { return main_.get(); }
   // None for a form without an open window.
   ChildWindow* childOf(const Form& form) const;
@@ -46,7 +46,7 @@ class Windows final : public DesktopObserver {
   void activatedByUser(QMdiSubWindow* window);
 
   Desktop& desktop_;
-  Acts acts_;
+  ScreenDoor door_;
   std::unique_ptr<MainWindow> main_;
   // Those of unloaded forms are gone from here, and deleted later by Qt.
   std::vector<ChildWindow*> children_;

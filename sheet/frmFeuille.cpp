@@ -13,7 +13,8 @@ constexpr float stripHeight = 1;
 }  // namespace
 
 frmFeuille::frmFeuille(Globals& globals)
-    : Form(globals.desktop, {.name = "frmFeuille", .scaleWidth = 10260, .scaleHeight = 8325}), globals_(globals) {
+    : Form(globals.desktop, {.name = "frmFeuille", .scaleWidth = 10260, .scaleHeight = 8325, .resizable = true}),
+      globals_(globals) {
   using F = frmFeuille;
   on(optFeuille, &OptionButton::Click, &F::optFeuille_Click);
   on(cmdSave, &CommandButton::Click, &F::cmdSave_Click);

@@ -13,7 +13,7 @@ PropertyList CheckBox::properties() const {
   return {{"Value", value_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
 }
 
-PreparedAct CheckBox::prepareClick() {
+Effect CheckBox::prepareClick() {
   return [this] { setValue(1 - value_); };
 }
 

@@ -24,7 +24,7 @@ class CheckBox : public Control {
 
   std::string_view kind() const override { return "case à cocher"; }
   PropertyList properties() const override;
-  PreparedAct prepareClick() override;
+  Effect prepareClick() override;
 
  private:
   int value_;

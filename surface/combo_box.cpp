@@ -47,7 +47,7 @@ int ComboBox::indexOf(std::string_view text) const {
   return -1;
 }
 
-PreparedAct ComboBox::prepareType(std::string text) {
+Effect ComboBox::prepareType(std::string text) {
   if (!editable_) return Control::prepareType(std::move(text));
   return [this, text = std::move(text)] { type(text); };
 }
@@ -59,7 +59,7 @@ void ComboBox::type(std::string text) {
   Change.fire();
 }
 
-PreparedAct ComboBox::preparePick(const Entry& entry) {
+Effect ComboBox::preparePick(const Entry& entry) {
   const int index = entryPosition(*this, entry, ListCount(), [this](int i) { return List(i); });
   return [this, index] { pick(index); };
 }

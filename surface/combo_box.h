@@ -45,9 +45,9 @@ class ComboBox : public Control {
   std::string_view kind() const override { return "liste déroulante"; }
   PropertyList properties() const override;
   // Selects the entry that equals the text, if any; runs Change, never Click.
-  PreparedAct prepareType(std::string text) override;
+  Effect prepareType(std::string text) override;
   // Runs Click also for the entry that is selected already: an entry was picked.
-  PreparedAct preparePick(const Entry& entry) override;
+  Effect preparePick(const Entry& entry) override;
 
  private:
   std::size_t checked(int index) const;

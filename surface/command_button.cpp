@@ -12,7 +12,7 @@ CommandButton::CommandButton(Place place, std::string name, Design design)
 
 PropertyList CommandButton::properties() const { return {{"Enabled", Enabled()}, {"Visible", Visible()}}; }
 
-PreparedAct CommandButton::prepareClick() {
+Effect CommandButton::prepareClick() {
   return [this] { Click.fire(); };
 }
 

@@ -26,7 +26,7 @@ class CommandButton : public Control {
 
   std::string_view kind() const override { return "bouton"; }
   PropertyList properties() const override;
-  PreparedAct prepareClick() override;
+  Effect prepareClick() override;
 
  private:
   std::string caption_;

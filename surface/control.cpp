@@ -1,7 +1,5 @@
 #include "surface/control.h"
 
-#include <algorithm>
-
 #include "surface/form.h"
 #include "surface/tab_control.h"
 
@@ -39,20 +37,12 @@ namespace {
 
 }  // namespace
 
-PreparedAct Control::prepareClick() { refuse(*this, "cliquer"); }
-PreparedAct Control::prepareType(std::string) { refuse(*this, "taper un texte"); }
-PreparedAct Control::preparePick(const Entry&) { refuse(*this, "choisir une entrée"); }
-PreparedAct Control::prepareRow(const Entry&) { refuse(*this, "cliquer une ligne"); }
-PreparedAct Control::prepareToggle(const Entry&) { refuse(*this, "cocher une ligne"); }
-PreparedAct Control::prepareEdit(const Entry&, std::string) { refuse(*this, "modifier un nom"); }
-PreparedAct Control::prepareScroll(int) { refuse(*this, "faire défiler"); }
-
-void Control::unwatch(ControlObserver& observer) { std::erase(observers_, &observer); }
-
-void Control::changed() {
-  const auto listening = observers_;  // one may come or go meanwhile
-  for (auto* observer : listening)
-    if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end()) observer->controlChanged(*this);
-}
+Effect Control::prepareClick() { refuse(*this, "cliquer"); }
+Effect Control::prepareType(std::string) { refuse(*this, "taper un texte"); }
+Effect Control::preparePick(const Entry&) { refuse(*this, "choisir une entrée"); }
+Effect Control::prepareRow(const Entry&) { refuse(*this, "cliquer une ligne"); }
+Effect Control::prepareToggle(const Entry&) { refuse(*this, "cocher une ligne"); }
+Effect Control::prepareEdit(const Entry&, std::string) { refuse(*this, "modifier un nom"); }
+Effect Control::prepareScroll(int) { refuse(*this, "faire défiler"); }
 
 }  // namespace orvane

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "surface/event.h"
+#include "surface/observed.h"
 #include "surface/property.h"
 
 namespace orvane {
@@ -23,7 +24,7 @@ struct Refusal {
 };
 
 // What an act does once the focus has moved to its control.
-using PreparedAct = std::function<void()>;
+using Effect = std::function<void()>;
 
 // An entry by its exact text or its 0-based position; a row likewise, counted from 1.
 using Entry = std::variant<std::string, int>;
@@ -47,7 +48,7 @@ class ControlObserver {
 };
 
 // A named control of a form. Property writes are for code; the prepare functions are what a user does to it.
-class Control {
+class Control : public Observed<ControlObserver> {
  public:
   Control(Place place, std::string name);
   virtual ~Control() = default;
@@ -82,17 +83,14 @@ class Control {
   // On the selected tab, enabled and visible, itself and all that holds it; else the reason why not.
   std::optional<std::string> unreachable() const;
 
-  // Each checks that a user could do this to the control, and gives what then happens. Throws a Refusal.
-  virtual PreparedAct prepareClick();
-  virtual PreparedAct prepareType(std::string text);
-  virtual PreparedAct preparePick(const Entry& entry);
-  virtual PreparedAct prepareRow(const Entry& row);
-  virtual PreparedAct prepareToggle(const Entry& row);
-  virtual PreparedAct prepareEdit(const Entry& row, std::string text);
-  virtual PreparedAct prepareScroll(int value);
-
-  void watch(ControlObserver& observer) { observers_.push_back(&observer); }
-  void unwatch(ControlObserver& observer);
+  // Each checks that a user could do this to the control, and gives its effect. Throws a Refusal.
+  virtual Effect prepareClick();
+  virtual Effect prepareType(std::string text);
+  virtual Effect preparePick(const Entry& entry);
+  virtual Effect prepareRow(const Entry& row);
+  virtual Effect prepareToggle(const Entry& row);
+  virtual Effect prepareEdit(const Entry& row, std::string text);
+  virtual Effect prepareScroll(int value);
 
  protected:
   // The first half of every setter: stores a value that differs and tells the observers. False when it is equal.
@@ -103,7 +101,7 @@ class Control {
     changed();
     return true;
   }
-  void changed();
+  void changed() { tell(&ControlObserver::controlChanged, *this); }
 
  private:
   Place place_;
@@ -111,7 +109,6 @@ class Control {
   std::optional<int> index_;
   bool enabled_ = true;
   bool visible_ = true;
-  std::vector<ControlObserver*> observers_;
 };
 
 }  // namespace orvane

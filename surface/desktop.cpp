@@ -10,8 +10,10 @@ namespace orvane {
 // Forms that are unloaded inside it stay alive to its end.
 class Desktop::Scope {
  public:
-  explicit Scope(Desktop& desktop) : desktop_(desktop) { desktop_.enter(); }
-  ~Scope() { desktop_.leave(); }
+  explicit Scope(Desktop& desktop) : desktop_(desktop) { ++desktop_.depth_; }
+  ~Scope() {
+    if (--desktop_.depth_ == 0) desktop_.freeUnloaded();
+  }
   Scope(const Scope&) = delete;
   Scope& operator=(const Scope&) = delete;
 
@@ -19,15 +21,15 @@ class Desktop::Scope {
   Desktop& desktop_;
 };
 
-bool runsHandlers(const Control& control) { return !control.form().wasUnloaded(); }
+void runHandler(const Control& owner, const std::function<void()>& handler) {
+  if (owner.form().wasUnloaded()) return;
+  const Desktop::Scope scope(owner.form().desktop());
+  handler();
+}
 
-HandlerScope::HandlerScope(Control& control) : desktop_(control.form().desktop()) { desktop_.enter(); }
-HandlerScope::~HandlerScope() { desktop_.leave(); }
+Desktop::~Desktop() { unwatchAll(); }
 
-Desktop::~Desktop() { observers_.clear(); }
-
-void Desktop::leave() {
-  if (--depth_ > 0) return;
+void Desktop::freeUnloaded() {
   // A destructor may unload further forms.
   while (!unloaded_.empty()) {
     const auto dead = std::move(unloaded_);
@@ -39,9 +41,7 @@ Answer Desktop::MsgBox(const std::string& prompt, BoxStyle style, const std::str
   return world_.dialogs.MsgBox(prompt, style, title);
 }
 
-void Desktop::Arrange(Arrangement arrangement) {
-  tell([&](DesktopObserver& observer) { observer.arrange(arrangement); });
-}
+void Desktop::Arrange(Arrangement arrangement) { tell(&DesktopObserver::arrange, arrangement); }
 
 Form* Desktop::find(std::string_view name, std::string_view caption) const {
   for (const auto& form : forms_)
@@ -51,7 +51,7 @@ Form* Desktop::find(std::string_view name, std::string_view caption) const {
 
 void Desktop::load(Form& form) {
   if (form.state_ != Form::State::Fresh) return;
-  Scope scope(*this);
+  const Scope scope(*this);
   forms_.push_back(form.shared_from_this());
   form.state_ = Form::State::Loaded;
   runLoad(form);
@@ -68,16 +68,16 @@ void Desktop::runLoad(Form& form) {
 }
 
 void Desktop::show(Form& form) {
-  Scope scope(*this);
+  const Scope scope(*this);
   load(form);
   if (!form.isLoaded()) return;
   form.visible_ = true;
-  tell([&](DesktopObserver& observer) { observer.shown(form); });
+  tell(&DesktopObserver::shown, form);
   if (form.role() == Form::Role::Child) activate(form);
 }
 
 void Desktop::showModal(Form& form) {
-  Scope scope(*this);
+  const Scope scope(*this);
   load(form);
   if (!form.isLoaded()) return;
   form.visible_ = true;
@@ -95,7 +95,7 @@ void Desktop::showModal(Form& form) {
 void Desktop::unload(Form& form) {
   // What closes already, closes once, also where its own Form_Unload asks for it again.
   if (form.state_ != Form::State::Loaded) return;
-  Scope scope(*this);
+  const Scope scope(*this);
   form.state_ = Form::State::Closing;
   if (form.role() == Form::Role::Frame) closeChildren();
   // Whatever goes wrong at its end, the form closes.
@@ -113,7 +113,7 @@ void Desktop::discard(Form& form) {
   unloaded_.push_back(*place);
   forms_.erase(place);
   form.unloaded();
-  tell([&](DesktopObserver& observer) { observer.unloaded(form); });
+  tell(&DesktopObserver::unloaded, form);
   if (wasActive) activateLast();
 }
 
@@ -132,20 +132,20 @@ bool Desktop::frameCloses() const {
 void Desktop::activateLast() {
   if (activation_.empty() || frameCloses()) return;
   Form& next = *activation_.back();
-  tell([&](DesktopObserver& observer) { observer.activated(next); });
+  tell(&DesktopObserver::activated, next);
   next.Form_Activate();
 }
 
 void Desktop::activate(Form& form) {
   if (form.role() != Form::Role::Child || !form.isLoaded() || activeChild() == &form) return;
-  Scope scope(*this);
+  const Scope scope(*this);
   std::erase(activation_, &form);
   activation_.push_back(&form);
   activateLast();
 }
 
 void Desktop::perform(const std::function<void()>& act) {
-  Scope scope(*this);
+  const Scope scope(*this);
   try {
     act();
   } catch (const Failure& failure) {
@@ -153,14 +153,6 @@ void Desktop::perform(const std::function<void()>& act) {
   } catch (const std::exception& error) {
     world_.dialogs.failure(std::string("Erreur interne : ") + error.what());
   }
-}
-
-void Desktop::unwatch(DesktopObserver& observer) { std::erase(observers_, &observer); }
-
-void Desktop::tell(const std::function<void(DesktopObserver&)>& news) {
-  const auto listening = observers_;  // one may come or go meanwhile
-  for (auto* observer : listening)
-    if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end()) news(*observer);
 }
 
 }  // namespace orvane

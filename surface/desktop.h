@@ -36,7 +36,7 @@ class DesktopObserver {
 };
 
 // All forms of one run: which are loaded, in which order, which child is active, which dialog is modal.
-class Desktop {
+class Desktop : public Observed<DesktopObserver> {
  public:
   explicit Desktop(World world) : world_(world) {}
   ~Desktop();
@@ -79,15 +79,12 @@ class Desktop {
   // Runs an act of a user. A failure that nothing caught is told through the dialogs, and the run goes on.
   void perform(const std::function<void()>& act);
 
-  void watch(DesktopObserver& observer) { observers_.push_back(&observer); }
-  void unwatch(DesktopObserver& observer);
-  void tell(const std::function<void(DesktopObserver&)>& news);
+  using Observed::tell;
 
  private:
-  friend class HandlerScope;
+  friend void runHandler(const Control& owner, const std::function<void()>& handler);
   class Scope;
-  void enter() { ++depth_; }
-  void leave();
+  void freeUnloaded();
   void runLoad(Form& form);
   void discard(Form& form);
   void closeChildren();
@@ -99,7 +96,6 @@ class Desktop {
   std::vector<Form*> activation_;
   std::vector<Form*> modals_;
   std::vector<std::shared_ptr<Form>> unloaded_;
-  std::vector<DesktopObserver*> observers_;
   int depth_ = 0;
 };
 

@@ -7,37 +7,24 @@ namespace orvane {
 
 class Control;
 
-// True while the form of a control runs handlers: an unloaded form runs none.
-bool runsHandlers(const Control& control);
-
-// Keeps what handlers unload alive until the outermost of them has returned.
-class HandlerScope {
- public:
-  explicit HandlerScope(Control& control);
-  ~HandlerScope();
-  HandlerScope(const HandlerScope&) = delete;
-  HandlerScope& operator=(const HandlerScope&) = delete;
-
- private:
-  class Desktop& desktop_;
-};
+// Runs a handler of a control, unless its form was unloaded. What handlers unload stays alive until the outermost of
+// them has returned.
+void runHandler(const Control& owner, const std::function<void()>& handler);
 
 // The logic behind an event of a control: at most one handler, run inside the write or the act that fires it.
 template <class... Args>
 class Event {
  public:
-  explicit Event(Control& owner) : owner_(owner) {}
+  explicit Event(const Control& owner) : owner_(owner) {}
 
   void handle(std::function<void(Args...)> handler) { handler_ = std::move(handler); }
 
   void fire(Args... args) {
-    if (!handler_ || !runsHandlers(owner_)) return;
-    HandlerScope scope(owner_);
-    handler_(args...);
+    if (handler_) runHandler(owner_, [&] { handler_(args...); });
   }
 
  private:
-  Control& owner_;
+  const Control& owner_;
   std::function<void(Args...)> handler_;
 };
 

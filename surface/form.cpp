@@ -16,7 +16,7 @@ Form::Form(Desktop& desktop, Design design) : desktop_(desktop), design_(std::mo
 void Form::setCaption(std::string caption) {
   if (design_.caption == caption) return;
   design_.caption = std::move(caption);
-  desktop_.tell([this](DesktopObserver& observer) { observer.captionChanged(*this); });
+  desktop_.tell(&DesktopObserver::captionChanged, *this);
 }
 
 float Form::ScaleWidth() const { return design_.scaleWidth / twipsPerUnit(scaleMode_); }
@@ -27,9 +27,7 @@ void Form::Show() { desktop_.show(*this); }
 void Form::ShowModal() { desktop_.showModal(*this); }
 void Form::Unload() { desktop_.unload(*this); }
 
-void Form::Refresh() {
-  desktop_.tell([this](DesktopObserver& observer) { observer.refresh(*this); });
-}
+void Form::Refresh() { desktop_.tell(&DesktopObserver::refresh, *this); }
 
 Control* Form::find(std::string_view name, std::optional<int> index) const {
   for (auto* control : controls_)

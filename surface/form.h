@@ -27,6 +27,7 @@ class Form : public std::enable_shared_from_this<Form> {
     // Inside the window's frame, twips.
     float scaleWidth = 0;
     float scaleHeight = 0;
+    bool resizable = false;  // by the user
   };
 
   Form(Desktop& desktop, Design design);
@@ -39,6 +40,7 @@ class Form : public std::enable_shared_from_this<Form> {
   Role role() const { return design_.role; }
   const std::string& Caption() const { return design_.caption; }
   void setCaption(std::string caption);
+  bool isResizable() const { return design_.resizable; }
   // For messages: the caption, or the name of a form without one.
   const std::string& title() const { return design_.caption.empty() ? design_.name : design_.caption; }
 

@@ -9,7 +9,7 @@ PropertyList Label::properties() const {
   return {{"Caption", caption_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
 }
 
-PreparedAct Label::prepareClick() {
+Effect Label::prepareClick() {
   return [this] { Click.fire(); };
 }
 

@@ -24,7 +24,7 @@ class Label : public Control {
   std::string_view kind() const override { return "étiquette"; }
   PropertyList properties() const override;
   bool takesFocus() const override { return false; }
-  PreparedAct prepareClick() override;
+  Effect prepareClick() override;
 
  private:
   std::string caption_;

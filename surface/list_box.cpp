@@ -47,7 +47,7 @@ PropertyList ListBox::properties() const {
           {"Visible", Visible()}};
 }
 
-PreparedAct ListBox::preparePick(const Entry& entry) {
+Effect ListBox::preparePick(const Entry& entry) {
   const int index = entryPosition(*this, entry, ListCount(), [this](int i) { return List(i); });
   return [this, index] {
     if (index != listIndex_)

@@ -34,7 +34,7 @@ class ListBox : public Control {
 
   std::string_view kind() const override { return "liste"; }
   PropertyList properties() const override;
-  PreparedAct preparePick(const Entry& entry) override;
+  Effect preparePick(const Entry& entry) override;
 
  private:
   std::size_t checked(int index) const;

@@ -84,16 +84,16 @@ void ListView::toggle(const ListItemRef& row) {
   ItemCheck.fire(row);
 }
 
-PreparedAct ListView::prepareRow(const Entry& row) {
+Effect ListView::prepareRow(const Entry& row) {
   return [this, target = rowOf(row)] { clickRow(target); };
 }
 
-PreparedAct ListView::prepareToggle(const Entry& row) {
+Effect ListView::prepareToggle(const Entry& row) {
   if (!checkBoxes()) return Control::prepareToggle(row);
   return [this, target = rowOf(row)] { toggle(target); };
 }
 
-PreparedAct ListView::prepareEdit(const Entry& row, std::string text) {
+Effect ListView::prepareEdit(const Entry& row, std::string text) {
   if (!labelEdit()) return Control::prepareEdit(row, std::move(text));
   return [this, target = rowOf(row), text = std::move(text)] {
     clickRow(target);

@@ -127,10 +127,10 @@ class ListView : public Control {
 
   std::string_view kind() const override { return "liste à colonnes"; }
   PropertyList properties() const override;
-  PreparedAct prepareRow(const Entry& row) override;
-  PreparedAct prepareToggle(const Entry& row) override;
+  Effect prepareRow(const Entry& row) override;
+  Effect prepareToggle(const Entry& row) override;
   // Clicks the row; edits its name where that is allowed, else does nothing else.
-  PreparedAct prepareEdit(const Entry& row, std::string text) override;
+  Effect prepareEdit(const Entry& row, std::string text) override;
 
   // The two halves of an edit, for a screen that lets the user type in between. The row was clicked before.
   bool beginEdit();

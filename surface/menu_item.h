@@ -25,7 +25,7 @@ class MenuItem : public Control {
 
   std::string_view kind() const override { return "menu"; }
   bool takesFocus() const override { return false; }
-  PreparedAct prepareClick() override {
+  Effect prepareClick() override {
     if (level() == 1 || isSeparator()) return Control::prepareClick();
     return [this] { Click.fire(); };
   }

@@ -24,7 +24,7 @@ PropertyList OptionButton::properties() const {
   return {{"Value", value_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
 }
 
-PreparedAct OptionButton::prepareClick() {
+Effect OptionButton::prepareClick() {
   return [this] { setValue(true); };
 }
 

@@ -26,7 +26,7 @@ class OptionButton : public Control {
 
   std::string_view kind() const override { return "bouton d'option"; }
   PropertyList properties() const override;
-  PreparedAct prepareClick() override;
+  Effect prepareClick() override;
 
  private:
   void clearGroup();

@@ -14,7 +14,7 @@ PropertyList ScrollBar::properties() const {
   return {{"Value", value_}, {"Max", max_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
 }
 
-PreparedAct ScrollBar::prepareScroll(int value) {
+Effect ScrollBar::prepareScroll(int value) {
   if (value < 0 || value > max_)
     throw Refusal{id() + " va de 0 à " + std::to_string(max_) + ", pas jusqu'à " + std::to_string(value) + "."};
   return [this, value] { setValue(value); };

@@ -25,7 +25,7 @@ class ScrollBar : public PlacedControl {
 
   std::string_view kind() const override { return "barre de défilement"; }
   PropertyList properties() const override;
-  PreparedAct prepareScroll(int value) override;
+  Effect prepareScroll(int value) override;
 
  private:
   int value_ = 0;

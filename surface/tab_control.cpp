@@ -45,7 +45,7 @@ std::optional<Value> TabControl::property(std::string_view name) const {
   return std::nullopt;
 }
 
-PreparedAct TabControl::preparePick(const Entry& entry) {
+Effect TabControl::preparePick(const Entry& entry) {
   const int tab = entryPosition(*this, entry, Tabs(), [this](int i) { return TabCaption(i); });
   if (!canBePicked(tabs_[checked(tab)])) throw Refusal{"L'onglet « " + TabCaption(tab) + " » est fermé."};
   return [this, tab] {

@@ -33,7 +33,7 @@ class TabControl : public Control {
   PropertyList properties() const override;
   // Also TabEnabled(i) and TabVisible(i).
   std::optional<Value> property(std::string_view name) const override;
-  PreparedAct preparePick(const Entry& entry) override;
+  Effect preparePick(const Entry& entry) override;
 
  private:
   struct Page {

@@ -13,7 +13,7 @@ PropertyList TextBox::properties() const {
   return {{"Text", text_}, {"BackColor", backColor_}, {"Enabled", Enabled()}, {"Visible", Visible()}};
 }
 
-PreparedAct TextBox::prepareType(std::string text) {
+Effect TextBox::prepareType(std::string text) {
   if (readOnly_) throw Refusal{id() + " est en lecture seule."};
   return [this, text = std::move(text)] { setText(text); };
 }

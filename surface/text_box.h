@@ -25,7 +25,7 @@ class TextBox : public Control {
 
   std::string_view kind() const override { return "zone de texte"; }
   PropertyList properties() const override;
-  PreparedAct prepareType(std::string text) override;
+  Effect prepareType(std::string text) override;
 
  private:
   std::string text_;

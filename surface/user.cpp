@@ -10,9 +10,10 @@ void User::requireOpen(const Form& form) const {
     throw Refusal{"La fenêtre « " + desktop_.modal()->title() + " » attend d'abord une réponse."};
 }
 
-void User::requireReachable(const Control& control) const {
+Control& User::requireReachable(Control& control) const {
   requireOpen(control.form());
   if (const auto reason = control.unreachable()) throw Refusal{*reason};
+  return control;
 }
 
 void User::moveFocus(Control& control) {
@@ -24,54 +25,36 @@ void User::moveFocus(Control& control) {
   desktop_.perform([&] { control.GotFocus.fire(); });
 }
 
-void User::act(Control& control, const PreparedAct& prepared) {
+void User::act(Control& control, const Effect& effect) {
   desktop_.perform([&] {
     // What fails on the way is told and does not hold up the act.
     desktop_.perform([&] { desktop_.activate(control.form()); });
     if (control.takesFocus()) moveFocus(control);
     // A handler of the focus may have closed the window or disabled the control.
-    if (control.form().isLoaded() && !control.unreachable()) prepared();
+    if (control.form().isLoaded() && !control.unreachable()) effect();
   });
 }
 
-void User::click(Control& control) {
-  requireReachable(control);
-  act(control, control.prepareClick());
-}
+void User::click(Control& control) { act(control, requireReachable(control).prepareClick()); }
 
 void User::type(Control& control, std::string text) {
-  requireReachable(control);
-  act(control, control.prepareType(std::move(text)));
+  act(control, requireReachable(control).prepareType(std::move(text)));
 }
 
-void User::pick(Control& control, const Entry& entry) {
-  requireReachable(control);
-  act(control, control.preparePick(entry));
-}
+void User::pick(Control& control, const Entry& entry) { act(control, requireReachable(control).preparePick(entry)); }
 
-void User::row(Control& control, const Entry& row) {
-  requireReachable(control);
-  act(control, control.prepareRow(row));
-}
+void User::row(Control& control, const Entry& row) { act(control, requireReachable(control).prepareRow(row)); }
 
-void User::toggle(Control& control, const Entry& row) {
-  requireReachable(control);
-  act(control, control.prepareToggle(row));
-}
+void User::toggle(Control& control, const Entry& row) { act(control, requireReachable(control).prepareToggle(row)); }
 
 void User::edit(Control& control, const Entry& row, std::string text) {
-  requireReachable(control);
-  act(control, control.prepareEdit(row, std::move(text)));
+  act(control, requireReachable(control).prepareEdit(row, std::move(text)));
 }
 
-void User::scroll(Control& control, int value) {
-  requireReachable(control);
-  act(control, control.prepareScroll(value));
-}
+void User::scroll(Control& control, int value) { act(control, requireReachable(control).prepareScroll(value)); }
 
 void User::focus(Control& control) {
-  requireReachable(control);
-  if (!control.takesFocus()) throw Refusal{control.id() + " ne prend pas le focus."};
+  if (!requireReachable(control).takesFocus()) throw Refusal{control.id() + " ne prend pas le focus."};
   act(control, [] {});
 }
 

@@ -33,10 +33,10 @@ class User {
  protected:
   // Both throw a Refusal.
   void requireOpen(const Form& form) const;
-  void requireReachable(const Control& control) const;
+  Control& requireReachable(Control& control) const;
 
  private:
-  void act(Control& control, const PreparedAct& prepared);
+  void act(Control& control, const Effect& effect);
   void moveFocus(Control& control);
 
   Desktop& desktop_;

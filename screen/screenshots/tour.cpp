@@ -10,7 +10,7 @@
 
 #include "canvas/qt_pictures.h"
 #include "editor/frmContact.h"
-#include "player/acts.h"
+#include "player/act_kinds.h"
 #include "player/no_settings.h"
 #include "player/player_clock.h"
 #include "player/player_dialogs.h"
@@ -121,7 +121,7 @@ class Tour {
     ScreenDialogs boxes;
     boxes.setWindows(windows_);
     QTimer::singleShot(0, &main(), [this] {
-      auto* box = static_cast<QDialog*>(QApplication::activeModalWidget());
+      auto* box = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
       album_.take(*box, "question");
       box->reject();
     });

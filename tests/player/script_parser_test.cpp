@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "player/acts.h"
+#include "player/act_kinds.h"
 
 namespace orvane::test {
 namespace {

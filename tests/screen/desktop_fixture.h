@@ -66,7 +66,7 @@ class DesktopFixture : public ::testing::Test {
     return *run.globals().frmCurrentPerso;
   }
   void perform(const std::function<void(User&)>& act) {
-    windows.acts().perform(act);
+    windows.door().act(act);
     turn();
   }
   void pickTab(frmPersonnage& character, int tab) {

@@ -53,7 +53,7 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
     EXPECT_EQ(run.desktop().modal()->Name(), "frmContact");
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
     // The windows behind take nothing.
-    EXPECT_FALSE(windows.acts().perform([&](User& user) { user.focus(character.txtJoueur); }));
+    EXPECT_FALSE(windows.door().act([&](User& user) { user.focus(character.txtJoueur); }));
     auto* name = dialog.findChild<QLineEdit*>("txtContactName");
     name->setFocus();
     QTest::keyClicks(name, "Max");

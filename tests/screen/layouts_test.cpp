@@ -45,10 +45,10 @@ TEST_F(Layouts, LackingAWidgetIsAnError) {
   QWidget window;
   layOut(character, window);
   delete window.findChild<QWidget*>("txtAge");
-  EXPECT_THROW(FormView(character, window, windows.acts()), std::logic_error);
+  EXPECT_THROW(FormView(character, window, windows.door()), std::logic_error);
   auto* wrong = new QWidget(&window);
   wrong->setObjectName("txtAge");
-  EXPECT_THROW(FormView(character, window, windows.acts()), std::logic_error);
+  EXPECT_THROW(FormView(character, window, windows.door()), std::logic_error);
 }
 
 bool isNameless(QAccessibleInterface& object) {

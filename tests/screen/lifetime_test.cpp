@@ -60,9 +60,9 @@ TEST_F(Lifetimes, AFailureOfAHandlerIsToldAndGoesNoFurther) {
 }
 
 TEST_F(Lifetimes, NoActComesInWhileABoxWaits) {
-  acts.suspend();
+  door.suspend();
   EXPECT_EQ(eventsAfter([&] { click(find<QPushButton>("cmdOne")); }), "");
-  acts.resume();
+  door.resume();
   EXPECT_EQ(eventsAfter([&] { click(find<QPushButton>("cmdOne")); }), "+cmdOne cmdOne");
 }
 

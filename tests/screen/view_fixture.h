@@ -22,7 +22,7 @@ class ViewFixture : public ::testing::Test {
   ViewFixture() {
     form->Show();
     PlainForm::layOut(window);
-    view = std::make_unique<FormView>(*form, window, acts);
+    view = std::make_unique<FormView>(*form, window, door);
     window.show();
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -61,7 +61,7 @@ class ViewFixture : public ::testing::Test {
   MemoryFiles files;
   BlankPictures pictures;
   Desktop desktop{World{dialogs, clock, settings, files, pictures}};
-  Acts acts{desktop};
+  ScreenDoor door{desktop};
   std::shared_ptr<PlainForm> form = std::make_shared<PlainForm>(desktop);
   QWidget window;
   std::unique_ptr<FormView> view;

@@ -2,20 +2,21 @@
 
 #include <functional>
 
-#include "surface/desktop.h"
 #include "surface/user.h"
 
 namespace orvane {
 
+// What a user does at the screen.
+using Deed = std::function<void(User&)>;
+
 // The one way from a widget to the forms. An act that is refused changes nothing; while a message box waits there are
 // none at all, whatever timers of widgets report.
-class Acts {
+class ScreenDoor {
  public:
-  explicit Acts(Desktop& desktop) : desktop_(desktop), user_(desktop) {}
+  explicit ScreenDoor(Desktop& desktop) : desktop_(desktop), user_(desktop) {}
 
-  Desktop& desktop() { return desktop_; }
   // False when the act was refused. Nothing is ever thrown.
-  bool perform(const std::function<void(User&)>& deed);
+  bool act(const Deed& deed);
 
   void suspend() { ++suspended_; }
   void resume() { --suspended_; }

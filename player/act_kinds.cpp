@@ -1,4 +1,4 @@
-#include "player/acts.h"
+#include "player/act_kinds.h"
 
 #include <algorithm>
 
