@@ -121,7 +121,7 @@ class ReadingOfAStart : public Reading {
     }
   }
 
-  void tell(const std::string& prompt, BoxStyle style) { dialogs_.MsgBox(prompt, style, std::string(App::Title)); }
+  void tell(const std::string& prompt, BoxStyle style) { dialogs_.MsgBox(prompt, style, App::Title); }
 
  private:
   Dialogs& dialogs_;

@@ -76,7 +76,7 @@ void frmPersonnage::prcLangDegréDescro() {
   const double selected = number(txtLang(iLangSel));
   for (std::size_t i = 0; i < degrees.size(); ++i)
     if (selected == static_cast<double>(i))
-      txtAllDescro.setText(std::string(degrees[i].head) + std::string(crLf) + std::string(degrees[i].text));
+      txtAllDescro.setText(std::string(degrees[i].head) + crLf + std::string(degrees[i].text));
 }
 
 }  // namespace orvane

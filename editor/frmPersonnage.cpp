@@ -208,7 +208,7 @@ void frmPersonnage::SSTabPerso_Click(std::int16_t) {
 void frmPersonnage::enterEtatCivil() {
   optLang(0).setValue(true);
   const auto& profile = *data_.colProfil(cmbProfil.ItemData(cmbProfil.ListIndex()));
-  txtAllDescro.setText(profile.sName + std::string(crLf) + profile.sDescro);
+  txtAllDescro.setText(profile.sName + crLf + profile.sDescro);
 }
 
 void frmPersonnage::enterCaracteristiques() {

@@ -63,8 +63,7 @@ bool prcMartialRestrict(Globals& globals, const ListItem& Item, std::int16_t iDe
     return error(globals, "Error : Values for 2 Martial technic types not found.");
 
   if (restrictionAllows(art.iRestrictO, art.iRestrictD, points.iO, points.iD)) return true;
-  perso.txtAllDescro.setText("!!! Vous devez tenir compte des restrictions en vigueur !!!" + std::string(crLf) +
-                             std::string(crLf) + art.sDescro);
+  perso.txtAllDescro.setText("!!! Vous devez tenir compte des restrictions en vigueur !!!" + crLf + crLf + art.sDescro);
   return false;
 }
 

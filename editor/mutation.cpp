@@ -109,7 +109,7 @@ void frmPersonnage::cmbMutaName_Click() {
 void frmPersonnage::cmdMutaRandomChoice_Click() {
   if (cmbMutaName.ListCount() == 0) return txtAllDescro.setText("!!! Aucun pouvoir dans cette catégorie !!!");
   const auto answer = desktop().MsgBox(
-      "Confirmation du choix aléatoire du pouvoir mutant dans la catégorie " + std::string(crLf) + cmbMutaCateg.Text(),
+      "Confirmation du choix aléatoire du pouvoir mutant dans la catégorie " + crLf + cmbMutaCateg.Text(),
       BoxStyle::OkCancel);
   if (answer == Answer::Cancel) return;
   chkMuta.setEnabled(false);
@@ -117,7 +117,7 @@ void frmPersonnage::cmdMutaRandomChoice_Click() {
   cmbMutaCateg.setEnabled(false);
   drawPower();
   add(txtSkillRest, pointsForDraw);
-  desktop().MsgBox(" La mutation tirée sera tenue secrète jusqu'à la validation du personnage." + std::string(crLf) +
+  desktop().MsgBox(" La mutation tirée sera tenue secrète jusqu'à la validation du personnage." + crLf +
                        skillPoints(pointsForDraw, "ajoutés."),
                    BoxStyle::Information);
   SSTabPerso.setTab(Competences);

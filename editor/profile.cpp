@@ -172,7 +172,7 @@ void frmPersonnage::openSkillSide(const clsProfil& chosen) {
   SSTabPerso.setTabEnabled(Competences, true);
   SSTabPerso.setTabEnabled(Mutation, true);
   setGrade(chosen.bAsserm);
-  txtAllDescro.setText(chosen.sName + std::string(crLf) + chosen.sDescro);
+  txtAllDescro.setText(chosen.sName + crLf + chosen.sDescro);
 }
 
 void frmPersonnage::setGrade(bool sworn) {

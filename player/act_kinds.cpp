@@ -26,7 +26,7 @@ void clock(Stage& stage, const Act& act) { stage.clock().set(act.seconds); }
 std::string shownProperty(Stage& stage, const Act& act) {
   const Control& control = stage.control(act.target);
   if (const auto value = control.property(act.property)) return shownValue(*value);
-  throw Refusal{control.id() + " (" + std::string(control.kind()) + ") n'a pas de propriété " + act.property + "."};
+  throw Refusal{control.idAndKind() + " n'a pas de propriété " + act.property + "."};
 }
 
 std::string propertyName(const Act& act) { return act.target.text() + "." + act.property; }

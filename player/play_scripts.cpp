@@ -38,7 +38,7 @@ std::string readAll(std::istream& in) {
   std::string text;
   for (std::array<char, 4096> part{}; in; text.append(part.data(), static_cast<std::size_t>(in.gcount())))
     in.read(part.data(), part.size());
-  if (in.bad()) throw ScriptError{std::string(standardInput) + ": Lecture impossible."};
+  if (in.bad()) throw ScriptError{standardInput + ": Lecture impossible."};
   return text;
 }
 

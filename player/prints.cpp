@@ -55,7 +55,7 @@ void printList(Transcript& transcript, const Control& control) {
   if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) return printEntries(transcript, *combo);
   if (const auto* box = dynamic_cast<const ListBox*>(&control)) return printEntries(transcript, *box);
   if (const auto* view = dynamic_cast<const ListView*>(&control)) return printRows(transcript, *view);
-  throw Refusal{control.id() + " (" + std::string(control.kind()) + ") n'a pas d'entrées."};
+  throw Refusal{control.idAndKind() + " n'a pas d'entrées."};
 }
 
 void printState(Transcript& transcript, const Form& form) {
@@ -76,7 +76,7 @@ void printWindows(Transcript& transcript, const Desktop& desktop) {
 
 void printPrinted(Transcript& transcript, const Control& control) {
   const auto* picture = dynamic_cast<const PictureBox*>(&control);
-  if (!picture) throw Refusal{control.id() + " (" + std::string(control.kind()) + ") n'est pas une image."};
+  if (!picture) throw Refusal{control.idAndKind() + " n'est pas une image."};
   if (!picture->log()) return;
   for (const auto& entry : picture->log()->printed)
     if (entry.picture == picture)

@@ -92,8 +92,6 @@ void ScreenDialogs::runModal(Form& form) {
   if (windows_) windows_->runModal(form);
 }
 
-void ScreenDialogs::failure(const std::string& description) {
-  MsgBox(description, BoxStyle::Critical, std::string(App::Title));
-}
+void ScreenDialogs::failure(const std::string& description) { MsgBox(description, BoxStyle::Critical, App::Title); }
 
 }  // namespace orvane

@@ -44,7 +44,7 @@ void printIdentity(frmFeuille& s, const frmPersonnage& p) {
 
 std::string contactLine(const clsContact& contact) {
   return contact.sName + " ( Info: " + std::to_string(contact.iInfo) + " - Réact: " + std::to_string(contact.iReact) +
-         " ) " + contact.sDescro + std::string(lineMarker);
+         " ) " + contact.sDescro + lineMarker;
 }
 
 void printContacts(frmFeuille& sheet, const frmPersonnage& perso) {

@@ -14,10 +14,10 @@ constexpr std::int16_t equipmentGap = 50;
 constexpr int skillColumns = 3;
 
 std::string martialArtText(const ListItem& row, const frmPersonnage& perso) {
-  std::string text = row.Text() + " :" + row.SubItems(ArtRow::Direction) + std::string(crLf);
+  std::string text = row.Text() + " :" + row.SubItems(ArtRow::Direction) + crLf;
   for (const auto& technic : perso.artOf(row).colMartialTechnic)
     if (technic->bSelected) text += technic->sName + " / ";
-  return text + std::string(lineMarker) + std::string(lineMarker);
+  return text + lineMarker + lineMarker;
 }
 
 void printMartialArts(frmFeuille& sheet, const frmPersonnage& perso) {
@@ -33,8 +33,8 @@ class SkillPrinter {
   explicit SkillPrinter(frmFeuille& sheet) : sheet_(sheet) {}
 
   void add(const ListItem& row) {
-    sNames_ += row.Text() + std::string(crLf);
-    sValues_ += row.SubItems(SkillRow::Level) + std::string(crLf);
+    sNames_ += row.Text() + crLf;
+    sValues_ += row.SubItems(SkillRow::Level) + crLf;
   }
 
   void endColumn(int column) {

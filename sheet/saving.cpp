@@ -22,7 +22,7 @@ std::string behindFirstBlank(const std::string& text) {
 }
 
 void tellFault(Desktop& desktop, const std::string& fault) {
-  desktop.MsgBox("Le personnage n'a pas pu être sauvé." + std::string(crLf) + fault, BoxStyle::Critical);
+  desktop.MsgBox("Le personnage n'a pas pu être sauvé." + crLf + fault, BoxStyle::Critical);
 }
 
 }  // namespace

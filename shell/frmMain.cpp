@@ -15,7 +15,6 @@ namespace {
 
 constexpr int minimized = 1;
 
-const std::string application(App::Title);
 const std::string section = "Settings";
 
 struct PlacementKey {
@@ -52,7 +51,7 @@ void frmMain::Form_Load() {
   Settings& settings = desktop().world().settings;
   for (const auto& [key, value] : placementKeys) {
     const float usual = placement_.*value;
-    const std::string text = settings.GetSetting(application, section, key, placementText(usual));
+    const std::string text = settings.GetSetting(App::Title, section, key, placementText(usual));
     placement_.*value = placementValue(text).value_or(usual);
   }
 }
@@ -61,7 +60,7 @@ void frmMain::Form_Unload() {
   if (windowState_ == minimized) return;
   Settings& settings = desktop().world().settings;
   for (const auto& [key, value] : placementKeys)
-    settings.SaveSetting(application, section, key, placementText(placement_.*value));
+    settings.SaveSetting(App::Title, section, key, placementText(placement_.*value));
 }
 
 void frmMain::mnuFileNewPJ_Click() {

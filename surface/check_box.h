@@ -11,9 +11,7 @@ class CheckBox : public Control {
     int value = 0;
   };
 
-  CheckBox(Place place, std::string name) : CheckBox(place, std::move(name), Design()) {}
-
-  CheckBox(Place place, std::string name, Design design);
+  CheckBox(Place place, std::string name, Design design = byDefault<Design>());
 
   // 0 unchecked, 1 checked.
   int Value() const { return value_; }

@@ -28,10 +28,7 @@ class Collection {
 
  private:
   std::size_t offset(std::int32_t position) const {
-    if (position < 1 || position > Count())
-      throw Failure("Position " + std::to_string(position) + " hors de la collection (1 à " + std::to_string(Count()) +
-                    ").");
-    return static_cast<std::size_t>(position - 1);
+    return offsetOf(position, 1, Count(), "d'élément", "la collection");
   }
 
   std::vector<T> items_;

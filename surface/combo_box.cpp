@@ -1,17 +1,10 @@
 #include "surface/combo_box.h"
 
-#include "surface/entries.h"
-#include "surface/failure.h"
-
 namespace orvane {
 
 ComboBox::ComboBox(Place place, std::string name, Design design)
-    : Control(place, std::move(name)), editable_(design.editable), items_(std::move(design.items)) {}
-
-void ComboBox::AddItem(std::string text) {
-  items_.push_back({std::move(text), 0});
-  newIndex_ = ListCount() - 1;
-  changed();
+    : EntryList(place, std::move(name)), editable_(design.editable) {
+  items_ = std::move(design.items);
 }
 
 void ComboBox::Clear() {
@@ -22,18 +15,10 @@ void ComboBox::Clear() {
   changed();
 }
 
-std::size_t ComboBox::checked(int index) const {
-  if (index < 0 || index >= ListCount())
-    throw Failure("Pas d'entrée " + std::to_string(index) + " dans la liste " + id() + ".");
-  return static_cast<std::size_t>(index);
-}
-
 void ComboBox::setListIndex(int index) {
-  std::string text = index == -1 ? std::string() : items_[checked(index)].text;
-  if (index == listIndex_) return;
-  text_ = std::move(text);
-  store(listIndex_, index);
-  Click.fire();
+  std::string text = index == -1 ? "" : List(index);
+  if (index != listIndex_) text_ = std::move(text);
+  EntryList::setListIndex(index);
 }
 
 PropertyList ComboBox::properties() const {
@@ -57,18 +42,6 @@ void ComboBox::type(std::string text) {
   listIndex_ = indexOf(text);
   store(text_, std::move(text));
   Change.fire();
-}
-
-Effect ComboBox::preparePick(const Entry& entry) {
-  const int index = entryPosition(*this, entry, ListCount(), [this](int i) { return List(i); });
-  return [this, index] { pick(index); };
-}
-
-void ComboBox::pick(int index) {
-  if (index != listIndex_)
-    setListIndex(index);
-  else
-    Click.fire();
 }
 
 }  // namespace orvane

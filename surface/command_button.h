@@ -14,9 +14,7 @@ class CommandButton : public Control {
     bool visible = true;
   };
 
-  CommandButton(Place place, std::string name) : CommandButton(place, std::move(name), Design()) {}
-
-  CommandButton(Place place, std::string name, Design design);
+  CommandButton(Place place, std::string name, Design design = byDefault<Design>());
 
   const std::string& Caption() const { return caption_; }
   Picture picture() const { return picture_; }

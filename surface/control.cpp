@@ -5,6 +5,18 @@
 
 namespace orvane {
 
+int entryPosition(const Control& control, const Entry& entry, int first, int count,
+                  const std::function<std::string(int)>& text) {
+  if (const int* position = std::get_if<int>(&entry)) {
+    if (*position >= first && *position < first + count) return *position;
+    throw Refusal{"Pas d'entrée " + std::to_string(*position) + " dans " + control.id() + "."};
+  }
+  const auto& wanted = std::get<std::string>(entry);
+  for (int i = first; i < first + count; ++i)
+    if (text(i) == wanted) return i;
+  throw Refusal{"Pas d'entrée « " + wanted + " » dans " + control.id() + "."};
+}
+
 Place::Place(Control& theHolder) : form(theHolder.form()), holder(&theHolder) {}
 
 Place::Place(TabControl& theHolder, int theTab) : form(theHolder.form()), holder(&theHolder), tab(theTab) {}
@@ -30,9 +42,8 @@ std::optional<std::string> Control::unreachable() const {
 
 namespace {
 
-[[noreturn]] void refuse(const Control& control, std::string_view act) {
-  throw Refusal{control.id() + " (" + std::string(control.kind()) + ") : " + std::string(act) +
-                " n'y est pas possible."};
+[[noreturn]] void refuse(const Control& control, const std::string& act) {
+  throw Refusal{control.idAndKind() + " : " + act + " n'y est pas possible."};
 }
 
 }  // namespace

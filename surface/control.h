@@ -10,11 +10,13 @@
 #include <vector>
 
 #include "surface/event.h"
+#include "surface/failure.h"
 #include "surface/observed.h"
 #include "surface/property.h"
 
 namespace orvane {
 
+class Control;
 class Form;
 class TabControl;
 
@@ -29,6 +31,11 @@ using Effect = std::function<void()>;
 // An entry by its exact text or its 0-based position; a row likewise, counted from 1.
 using Entry = std::variant<std::string, int>;
 
+// The position, counted from first, of the one among count entries that has exactly that text or stands there. Refuses
+// what is not there.
+int entryPosition(const Control& control, const Entry& entry, int first, int count,
+                  const std::function<std::string(int)>& text);
+
 // Where a control stands: on the form itself, in a frame or a picture box, or on one tab of a tab control.
 struct Place {
   Place(Form& theForm) : form(theForm) {}  // NOLINT(google-explicit-constructor): declarations read better
@@ -39,6 +46,13 @@ struct Place {
   Control* holder = nullptr;
   int tab = -1;
 };
+
+// The design of a control that is declared without one. As a default argument, {} would come before the end of the
+// class that the design is nested in.
+template <class Design>
+Design byDefault() {
+  return {};
+}
 
 // Told that a control changed; never changes it.
 class ControlObserver {
@@ -76,6 +90,8 @@ class Control : public Observed<ControlObserver> {
 
   // What the kind is called in messages.
   virtual std::string_view kind() const = 0;
+  // "txtAge (zone de texte)"
+  std::string idAndKind() const { return id() + " (" + std::string(kind()) + ")"; }
   // The properties that scripts read, in order; empty for kinds that have none.
   virtual PropertyList properties() const { return {}; }
   virtual std::optional<Value> property(std::string_view name) const;

@@ -13,7 +13,7 @@ namespace orvane {
 
 // What the program calls itself.
 struct App {
-  static constexpr std::string_view Title = "Tessaly";
+  static inline const std::string Title = "Tessaly";
   static constexpr int Major = 1;
   static constexpr int Minor = 1;
   static constexpr int Revision = 0;
@@ -45,7 +45,7 @@ class Desktop : public Observed<DesktopObserver> {
 
   World& world() { return world_; }
   // Blocks until the user answers.
-  Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string& title = std::string(App::Title));
+  Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string& title = App::Title);
   void Arrange(Arrangement arrangement);
 
   // The loaded forms, in the order in which they were loaded.

@@ -34,10 +34,7 @@ class Family {
     members_.emplace_back(place, name_, design);
     members_.back().setIndex(size() - 1);
   }
-  std::size_t checked(int index) const {
-    if (index < 0 || index >= size()) throw Failure("Pas de contrôle " + name_ + "(" + std::to_string(index) + ").");
-    return static_cast<std::size_t>(index);
-  }
+  std::size_t checked(int index) const { return offsetOf(index, 0, size(), "de contrôle", name_); }
 
   std::string name_;
   std::deque<C> members_;

@@ -11,9 +11,7 @@ class Frame : public Control {
     std::string caption = {};
   };
 
-  Frame(Place place, std::string name) : Frame(place, std::move(name), Design()) {}
-
-  Frame(Place place, std::string name, Design design)
+  Frame(Place place, std::string name, Design design = byDefault<Design>())
       : Control(place, std::move(name)), caption_(std::move(design.caption)) {}
 
   const std::string& Caption() const { return caption_; }
@@ -32,9 +30,7 @@ class Image : public Control {
     std::string picture = {};
   };
 
-  Image(Place place, std::string name) : Image(place, std::move(name), Design()) {}
-
-  Image(Place place, std::string name, Design design)
+  Image(Place place, std::string name, Design design = byDefault<Design>())
       : Control(place, std::move(name)), picture_(std::move(design.picture)) {}
 
   const std::string& picture() const { return picture_; }

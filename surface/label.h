@@ -11,9 +11,7 @@ class Label : public Control {
     std::string tag = {};
   };
 
-  Label(Place place, std::string name) : Label(place, std::move(name), Design()) {}
-
-  Label(Place place, std::string name, Design design);
+  Label(Place place, std::string name, Design design = byDefault<Design>());
 
   const std::string& Caption() const { return caption_; }
   void setCaption(std::string caption) { store(caption_, std::move(caption)); }

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "surface/failure.h"
 #include "surface/list_view.h"
 
 namespace orvane {
@@ -18,9 +17,7 @@ void ListItem::setText(std::string text) { store(text_, std::move(text)); }
 void ListItem::setSubItems(int column, std::string text) { store(cells_[checked(column)].text_, std::move(text)); }
 
 std::size_t ListItem::checked(int column) const {
-  if (column < 1 || column > subItemCount())
-    throw Failure("Pas de colonne " + std::to_string(column) + " dans la liste.");
-  return static_cast<std::size_t>(column - 1);
+  return offsetOf(column, 1, subItemCount(), "de colonne", "la ligne");
 }
 
 bool ListItem::Selected() const { return list_ && list_->selected_.get() == this; }

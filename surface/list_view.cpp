@@ -1,7 +1,5 @@
 #include "surface/list_view.h"
 
-#include "surface/entries.h"
-#include "surface/failure.h"
 #include "surface/text.h"
 
 namespace orvane {
@@ -40,9 +38,7 @@ void ListView::Clear() {
 }
 
 const ListItemRef& ListView::ListItems(int position) const {
-  if (position < 1 || position > Count())
-    throw Failure("Pas de ligne " + std::to_string(position) + " dans la liste " + id() + ".");
-  return rows_[static_cast<std::size_t>(position - 1)];
+  return rows_[offsetOf(position, 1, Count(), "de ligne", Name())];
 }
 
 std::string ListView::sortText(const ListItem& row) const {
@@ -67,11 +63,7 @@ PropertyList ListView::properties() const {
 }
 
 ListItemRef ListView::rowOf(const Entry& row) const {
-  if (const auto* position = std::get_if<int>(&row)) {
-    if (*position >= 1 && *position <= Count()) return ListItems(*position);
-    throw Refusal{"Pas de ligne " + std::to_string(*position) + " dans " + id() + "."};
-  }
-  return ListItems(entryPosition(*this, row, Count(), [this](int i) { return ListItems(i + 1)->Text(); }) + 1);
+  return ListItems(entryPosition(*this, row, 1, Count(), [this](int i) { return ListItems(i)->Text(); }));
 }
 
 void ListView::clickRow(const ListItemRef& row) {

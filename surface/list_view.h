@@ -92,9 +92,7 @@ class ListView : public Control {
     bool labelEdit = false;  // the names are edited in place, as far as BeforeLabelEdit allows
   };
 
-  ListView(Place place, std::string name) : ListView(place, std::move(name), Design()) {}
-
-  ListView(Place place, std::string name, Design design);
+  ListView(Place place, std::string name, Design design = byDefault<Design>());
   // Rows that someone still holds let go of the list.
   ~ListView() override;
 

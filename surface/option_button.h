@@ -12,9 +12,7 @@ class OptionButton : public Control {
     std::string tag = {};
   };
 
-  OptionButton(Place place, std::string name) : OptionButton(place, std::move(name), Design()) {}
-
-  OptionButton(Place place, std::string name, Design design);
+  OptionButton(Place place, std::string name, Design design = byDefault<Design>());
 
   bool Value() const { return value_; }
   // Selecting one clears the others of the group; only the one selected fires Click.

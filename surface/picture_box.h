@@ -34,9 +34,7 @@ class PictureBox : public PlacedControl {
     PrintLog* log = nullptr;   // of the form; outlives the box
   };
 
-  PictureBox(Place place, std::string name) : PictureBox(place, std::move(name), Design()) {}
-
-  PictureBox(Place place, std::string name, Design design);
+  PictureBox(Place place, std::string name, Design design = byDefault<Design>());
 
   bool AutoSize() const { return autoSize_; }
   // True: the box takes the size of its picture.

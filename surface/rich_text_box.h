@@ -7,11 +7,7 @@ namespace orvane {
 // Shows a rich text file, or a plain text in its place.
 class RichTextBox : public Control {
  public:
-  struct Design {};
-
-  RichTextBox(Place place, std::string name) : RichTextBox(place, std::move(name), Design()) {}
-
-  RichTextBox(Place place, std::string name, Design) : Control(place, std::move(name)) {}
+  using Control::Control;
 
   // The bytes of the file as they are. Fails when it cannot be read.
   void LoadFile(const std::string& path);

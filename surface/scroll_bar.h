@@ -12,9 +12,7 @@ class ScrollBar : public PlacedControl {
     float height = 0;
   };
 
-  ScrollBar(Place place, std::string name) : ScrollBar(place, std::move(name), Design()) {}
-
-  ScrollBar(Place place, std::string name, Design design);
+  ScrollBar(Place place, std::string name, Design design = byDefault<Design>());
 
   int Value() const { return value_; }
   void setValue(int value);

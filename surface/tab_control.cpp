@@ -2,18 +2,10 @@
 
 #include <charconv>
 
-#include "surface/entries.h"
-#include "surface/failure.h"
-
 namespace orvane {
 
 TabControl::TabControl(Place place, std::string name, Design design) : Control(place, std::move(name)) {
   for (auto& caption : design.captions) tabs_.push_back({std::move(caption)});
-}
-
-std::size_t TabControl::checked(int tab) const {
-  if (tab < 0 || tab >= Tabs()) throw Failure("Pas d'onglet " + std::to_string(tab) + ".");
-  return static_cast<std::size_t>(tab);
 }
 
 void TabControl::setTab(int tab) {
@@ -46,7 +38,7 @@ std::optional<Value> TabControl::property(std::string_view name) const {
 }
 
 Effect TabControl::preparePick(const Entry& entry) {
-  const int tab = entryPosition(*this, entry, Tabs(), [this](int i) { return TabCaption(i); });
+  const int tab = entryPosition(*this, entry, 0, Tabs(), [this](int i) { return TabCaption(i); });
   if (!canBePicked(tabs_[checked(tab)])) throw Refusal{"L'onglet « " + TabCaption(tab) + " » est fermé."};
   return [this, tab] {
     if (tab != tab_)

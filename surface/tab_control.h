@@ -42,7 +42,7 @@ class TabControl : public Control {
     bool visible = true;
   };
 
-  std::size_t checked(int tab) const;
+  std::size_t checked(int tab) const { return offsetOf(tab, 0, Tabs(), "d'onglet", Name()); }
   bool canBePicked(const Page& page) const { return page.enabled && page.visible; }
   std::string pickableTabs() const;
 

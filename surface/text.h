@@ -9,7 +9,7 @@
 namespace orvane {
 
 // The line end of texts for the user.
-inline constexpr std::string_view crLf = "\r\n";
+inline const std::string crLf = "\r\n";
 
 std::size_t characterCount(std::string_view text);
 std::string firstCharacters(std::string_view text, std::size_t count);

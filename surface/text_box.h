@@ -11,9 +11,7 @@ class TextBox : public Control {
     std::string text = {};
   };
 
-  TextBox(Place place, std::string name) : TextBox(place, std::move(name), Design()) {}
-
-  TextBox(Place place, std::string name, Design design);
+  TextBox(Place place, std::string name, Design design = byDefault<Design>());
 
   const std::string& Text() const { return text_; }
   void setText(std::string text);

@@ -19,7 +19,6 @@
 
 #include "screen/qt_text.h"
 #include "surface/combo_box.h"
-#include "surface/entries.h"
 #include "surface/list_box.h"
 #include "surface/list_view.h"
 #include "surface/menu_item.h"
@@ -45,18 +44,16 @@ void replaceText(QWidget& widget, const QString& text) {
   QApplication::sendEvent(&widget, &typed);
 }
 
-template <class List>
-int position(List& list, const Entry& entry) {
-  return entryPosition(list, entry, list.ListCount(), [&](int i) { return list.List(i); });
+int position(EntryList& list, const Entry& entry) {
+  return entryPosition(list, entry, 0, list.ListCount(), [&](int i) { return list.List(i); });
 }
 
 int position(TabControl& tabs, const Entry& entry) {
-  return entryPosition(tabs, entry, tabs.Tabs(), [&](int i) { return tabs.TabCaption(i); });
+  return entryPosition(tabs, entry, 0, tabs.Tabs(), [&](int i) { return tabs.TabCaption(i); });
 }
 
 int position(ListView& list, const Entry& row) {
-  if (const int* number = std::get_if<int>(&row)) return *number - 1;
-  return entryPosition(list, row, list.Count(), [&](int i) { return list.ListItems(i + 1)->Text(); });
+  return entryPosition(list, row, 1, list.Count(), [&](int i) { return list.ListItems(i)->Text(); }) - 1;
 }
 
 QRect shownRow(QTreeWidget& tree, int row) {

@@ -70,7 +70,7 @@ TEST_F(Forms, AFailedLoadLeavesNoFormBehind) {
   open("A");
   noted();
   open("B", Form::Role::Child, {{"Form_Load", [](Sample& form) { form.list.setListIndex(9); }}});
-  EXPECT_EQ(told(), Log{"failure|Pas d'entrée 9 dans la liste list."});
+  EXPECT_EQ(told(), Log{"failure|Pas d'entrée 9 dans list."});
   EXPECT_EQ(noted(), (Log{"B: Form_Load", "B: freed"}));
   EXPECT_EQ(openForms(), Log{"A"});
 }
