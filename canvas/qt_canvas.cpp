@@ -5,16 +5,14 @@
 #include <QBuffer>
 #include <QPainter>
 
+#include "canvas/qt_text.h"
 #include "canvas/sheet_font.h"
 #include "surface/failure.h"
 
 namespace orvane {
 namespace {
 
-constexpr float twipsPerPixel = 15;
 constexpr int dotsPerMetre = 3780;  // 96 dots per inch
-
-QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
 
 QImage atSheetResolution(QImage picture) {
   picture.setDevicePixelRatio(1);
@@ -28,8 +26,8 @@ QImage atSheetResolution(QImage picture) {
 QtCanvas::QtCanvas(const QImage& picture)
     : image_(atSheetResolution(picture)), font_(sheetFont("Times New Roman", 10)), metrics_(font_, &image_) {}
 
-float QtCanvas::width() const { return float(image_.width()) * twipsPerPixel; }
-float QtCanvas::height() const { return float(image_.height()) * twipsPerPixel; }
+float QtCanvas::width() const { return static_cast<float>(image_.width()) * twipsPerPixel; }
+float QtCanvas::height() const { return static_cast<float>(image_.height()) * twipsPerPixel; }
 
 void QtCanvas::setFont(const std::string& name, float points) {
   font_ = sheetFont(name, points);
@@ -37,17 +35,17 @@ void QtCanvas::setFont(const std::string& name, float points) {
 }
 
 float QtCanvas::TextWidth(std::string_view text) const {
-  return float(metrics_.horizontalAdvance(toQt(text))) * twipsPerPixel;
+  return static_cast<float>(metrics_.horizontalAdvance(toQt(text))) * twipsPerPixel;
 }
 
-float QtCanvas::TextHeight(std::string_view) const { return float(metrics_.height()) * twipsPerPixel; }
+float QtCanvas::TextHeight(std::string_view) const { return static_cast<float>(metrics_.height()) * twipsPerPixel; }
 
 void QtCanvas::print(std::string_view text, float x, float y) {
   if (text.empty()) return;
   QPainter painter(&image_);
   painter.setFont(font_);
   painter.setPen(Qt::black);
-  const double baseline = double(y / twipsPerPixel) + metrics_.ascent();
+  const double baseline = static_cast<double>(y / twipsPerPixel) + metrics_.ascent();
   painter.drawText(QPointF(std::round(x / twipsPerPixel), std::round(baseline)), toQt(text));
 }
 

@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-// A picture of 15 twips a pixel. Its pixels are shared with the picture it was made from until it is printed on.
+// A picture. Its pixels are shared with the picture it was made from until it is printed on.
 class QtCanvas : public Canvas {
  public:
   explicit QtCanvas(const QImage& picture);

@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include "canvas/qt_canvas.h"
+#include "canvas/qt_text.h"
 #include "surface/failure.h"
 
 // Outside all namespaces: the name that is declared inside the macro is global.
@@ -16,7 +17,7 @@ namespace {
 
 QImage decoded(std::string_view name) {
   keepArtLinked();
-  const QImage picture(QStringLiteral(":/art/%1.bmp").arg(QString::fromUtf8(name.data(), qsizetype(name.size()))));
+  const QImage picture(QStringLiteral(":/art/%1.bmp").arg(toQt(name)));
   if (picture.isNull()) throw Failure("Il n'y a pas d'image \"" + std::string(name) + "\" dans le programme.");
   return picture.convertToFormat(QImage::Format_RGB32);
 }

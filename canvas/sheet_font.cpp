@@ -7,6 +7,8 @@
 #include <QFontDatabase>
 #include <QStringList>
 
+#include "canvas/qt_text.h"
+
 namespace orvane {
 namespace {
 
@@ -23,12 +25,12 @@ void warnWithoutSerif(const QString& family) {
 }
 
 // In pixels, so that no screen's own resolution has a say.
-int pixelSize(float points) { return std::max(1, int(std::lround(points * 96 / 72))); }
+int pixelSize(float points) { return std::max(1, static_cast<int>(std::lround(points * 96 / 72))); }
 
 }  // namespace
 
 QFont sheetFont(const std::string& name, float points) {
-  const QString family = QString::fromStdString(name);
+  const QString family = toQt(name);
   warnWithoutSerif(family);
   QFont font(QStringList{family, standIn});
   font.setPixelSize(pixelSize(points));

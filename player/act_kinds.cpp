@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "player/player_clock.h"
-#include "player/player_dialogs.h"
+#include "player/player_world.h"
 #include "player/prints.h"
 #include "player/stage.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,7 +13,7 @@ class Stage;
 
 // A kind of act: how it is written, and what it does. Playing throws a Refusal where a user could not do it.
 struct ActKind {
-  std::string_view name;
+  std::string name;
   std::vector<Operand> operands;
   void (*play)(Stage& stage, const Act& act);
 };

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "player/buttons.h"
+#include "player/player_world.h"
 
 namespace orvane {
 namespace {
@@ -20,14 +20,6 @@ bool isName(std::string_view text) {
   return !text.empty() && !isDigit(text.front()) && std::all_of(text.begin(), text.end(), isNameCharacter);
 }
 
-template <class Number>
-std::optional<Number> wholly(std::string_view text) {
-  Number number{};
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 std::optional<int> wholeNumber(std::string_view text) {
   int number = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -41,7 +33,10 @@ std::optional<int> wholeNumber(std::string_view text) {
 std::optional<double> decimalNumber(std::string_view text) {
   const std::string_view unsignedText = text.substr(text.starts_with('-') ? 1 : 0);
   if (unsignedText.empty() || !isDigit(unsignedText.front())) return std::nullopt;
-  return wholly<double>(text);
+  double number = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
+  return number;
 }
 
 // The name and the bracketed index of "txtCaract(3)".
@@ -109,7 +104,7 @@ void takeValue(Act& act, const Word& word) {
 
 struct OperandForm {
   Operand operand;
-  std::string_view name;
+  const char* name;
   void (*take)(Act&, const Word&);
 };
 
@@ -128,7 +123,7 @@ const OperandForm& formOf(Operand operand) { return forms[static_cast<std::size_
 
 }  // namespace
 
-std::string_view operandName(Operand operand) { return formOf(operand).name; }
+const char* operandName(Operand operand) { return formOf(operand).name; }
 
 void takeOperand(Act& act, Operand operand, const Word& word) { formOf(operand).take(act, word); }
 

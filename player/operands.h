@@ -20,7 +20,7 @@ enum class Operand {
 };
 
 // What an operand is called in messages.
-std::string_view operandName(Operand operand);
+const char* operandName(Operand operand);
 
 // Takes a word into the act; an Answer is added. Throws a LineError where the word does not have the form.
 void takeOperand(Act& act, Operand operand, const Word& word);

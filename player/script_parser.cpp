@@ -20,8 +20,8 @@ bool isUtf8(std::string_view text) {
 }
 
 std::string usage(const ActKind& kind) {
-  std::string shown = "« " + std::string(kind.name) + " » s'écrit : " + std::string(kind.name);
-  for (const Operand operand : kind.operands) shown += " <" + std::string(operandName(operand)) + ">";
+  std::string shown = "« " + kind.name + " » s'écrit : " + kind.name;
+  for (const Operand operand : kind.operands) shown += std::string(" <") + operandName(operand) + ">";
   return shown;
 }
 

@@ -5,9 +5,7 @@
 #include <ostream>
 #include <vector>
 
-#include "player/no_settings.h"
-#include "player/player_clock.h"
-#include "player/player_dialogs.h"
+#include "player/player_world.h"
 #include "player/script.h"
 #include "player/stage.h"
 #include "shell/main_procedure.h"

@@ -26,9 +26,9 @@ void Transcript::moveTo(const std::string& file, int line) {
 
 void Transcript::line(const std::string& text) { out_ << text << '\n' << std::flush; }
 
-void Transcript::fault(const char* kind, const std::string& text) {
+void Transcript::fault(const std::string& kind, const std::string& text) {
   ++faults_;
-  line(std::string(kind) + " " + onOneLine(file_) + ":" + std::to_string(line_) + ": " + onOneLine(text));
+  line(kind + " " + onOneLine(file_) + ":" + std::to_string(line_) + ": " + onOneLine(text));
 }
 
 void Transcript::refused(const std::string& reason) {

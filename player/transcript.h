@@ -23,7 +23,7 @@ class Transcript {
   bool hasFaults() const { return faults_ > 0; }
 
  private:
-  void fault(const char* kind, const std::string& text);
+  void fault(const std::string& kind, const std::string& text);
 
   std::ostream& out_;
   std::string file_;

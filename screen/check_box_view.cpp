@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 

@@ -6,10 +6,10 @@
 #include <QLayout>
 #include <QShortcut>
 
-#include "screen/cancel_button.h"
+#include "canvas/qt_text.h"
 #include "screen/layouts.h"
 #include "screen/measures.h"
-#include "screen/qt_text.h"
+#include "surface/command_button.h"
 #include "surface/picture_box.h"
 
 namespace orvane {

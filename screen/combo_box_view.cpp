@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
-#include "screen/box_colour.h"
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
+#include "screen/readable_colours.h"
 
 namespace orvane {
 

@@ -5,8 +5,8 @@
 #include <QKeyEvent>
 #include <QStyle>
 
+#include "canvas/qt_text.h"
 #include "screen/pointer_shape.h"
-#include "screen/qt_text.h"
 
 namespace orvane {
 

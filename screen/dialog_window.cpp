@@ -9,10 +9,10 @@
 #include <QScreen>
 #include <QWindow>
 
-#include "screen/cancel_button.h"
+#include "canvas/qt_text.h"
 #include "screen/layouts.h"
 #include "screen/pointer_shape.h"
-#include "screen/qt_text.h"
+#include "surface/command_button.h"
 
 namespace orvane {
 

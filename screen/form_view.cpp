@@ -6,8 +6,8 @@
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 
+#include "canvas/qt_text.h"
 #include "screen/make_view.h"
-#include "screen/qt_text.h"
 #include "surface/desktop.h"
 
 namespace orvane {

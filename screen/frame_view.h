@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
 #include "screen/view.h"
 #include "surface/frame.h"
@@ -11,6 +11,15 @@ namespace orvane {
 class FrameView final : public View {
  public:
   FrameView(Frame& frame, QWidget& box, FormView& form);
+
+ private:
+  void show() override {}
+};
+
+// A picture that is stored with the program.
+class ImageView final : public View {
+ public:
+  ImageView(Image& image, QLabel& label, FormView& form);
 
  private:
   void show() override {}

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 namespace {
@@ -49,14 +49,6 @@ void LabelView::underline(bool underlined) {
 void LabelView::show() {
   const QString caption = shownLines(label_.Caption());
   if (text_.text() != caption) text_.setText(caption);
-}
-
-ImageView::ImageView(Image& image, QLabel& label, FormView& form) : View(image, label, form) {
-  constexpr qreal logoWidth = 320;
-  QPixmap picture(":/art/" + toQt(image.picture()) + ".png");
-  if (picture.isNull()) return;
-  picture.setDevicePixelRatio(picture.width() / logoWidth);
-  label.setPixmap(picture);
 }
 
 }  // namespace orvane

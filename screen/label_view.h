@@ -3,7 +3,6 @@
 #include <QLabel>
 
 #include "screen/view.h"
-#include "surface/frame.h"
 #include "surface/label.h"
 
 namespace orvane {
@@ -22,15 +21,6 @@ class LabelView final : public View {
 
   Label& label_;
   QLabel& text_;
-};
-
-// A picture that is stored with the program.
-class ImageView final : public View {
- public:
-  ImageView(Image& image, QLabel& label, FormView& form);
-
- private:
-  void show() override {}
 };
 
 }  // namespace orvane

@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 

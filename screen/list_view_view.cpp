@@ -9,8 +9,8 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
+#include "canvas/qt_text.h"
 #include "screen/measures.h"
-#include "screen/qt_text.h"
 #include "surface/desktop.h"
 
 namespace orvane {

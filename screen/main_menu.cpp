@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QMenu>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 namespace {

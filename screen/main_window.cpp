@@ -12,9 +12,9 @@
 #include <QScrollBar>
 #include <QShortcut>
 
+#include "canvas/qt_text.h"
 #include "screen/main_menu.h"
 #include "screen/measures.h"
-#include "screen/qt_text.h"
 
 namespace orvane {
 namespace {

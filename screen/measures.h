@@ -1,13 +1,16 @@
 #pragma once
 
-#include <cmath>
+#include <QWidget>
 
-// Twips are 1/1440 inch. A pixel of the screen is one of 96 to an inch, whatever the scale factor.
+#include "surface/placed_control.h"
+
+// From twips to pixels of the screen, which are 96 to an inch whatever the scale factor, and back.
 namespace orvane {
 
-inline constexpr float twipsPerPixel = 15.0F;
+int pixels(float twips);
+float twips(int pixels);
 
-inline int pixels(float twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
-inline float twips(int thePixels) { return static_cast<float>(thePixels) * twipsPerPixel; }
+// Puts a widget where code has put its control; one that was never given a size stays where the layout has it.
+void placeWidget(const PlacedControl& control, QWidget& widget);
 
 }  // namespace orvane

@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "surface/form.h"
 
 namespace orvane {

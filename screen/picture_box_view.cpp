@@ -7,7 +7,6 @@
 
 #include "canvas/qt_pictures.h"
 #include "screen/measures.h"
-#include "screen/placing.h"
 #include "surface/form.h"
 #include "surface/shape.h"
 

@@ -3,7 +3,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 namespace {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QApplication>
+
 namespace orvane {
 namespace {
 
@@ -28,6 +30,15 @@ QColor markBackground(Colour mark, const QPalette& palette) {
   const QColor colour = screenColour(mark, palette);
   if (!isDark(palette.color(QPalette::Base))) return colour;
   return QColor::fromHslF(colour.hslHueF(), 0.7F, 0.2F);
+}
+
+// What the layout says about the box stays in front of the mark.
+QString describedWith(QWidget& box, const QString& mark) {
+  constexpr auto property = "orvaneDescription";
+  if (!box.property(property).isValid()) box.setProperty(property, box.accessibleDescription());
+  const QString design = box.property(property).toString();
+  if (design.isEmpty() || mark.isEmpty()) return design + mark;
+  return design + ", " + mark;
 }
 
 }  // namespace
@@ -92,6 +103,18 @@ QString markInWords(Colour backColor) {
     default:
       return {};
   }
+}
+
+void showBoxColour(QWidget& box, Colour backColor) {
+  const QVariant shown = box.property("orvaneBackColor");
+  if (backColor != Colour::WindowBackground)
+    box.setPalette(boxPalette(backColor, QApplication::palette(&box)));
+  else if (shown.isValid() && shown.toUInt() != static_cast<uint>(backColor))
+    box.setPalette(QPalette());
+  if (shown.isValid() || backColor != Colour::WindowBackground)
+    box.setProperty("orvaneBackColor", static_cast<uint>(backColor));
+  const QString description = describedWith(box, markInWords(backColor));
+  if (box.accessibleDescription() != description) box.setAccessibleDescription(description);
 }
 
 }  // namespace orvane

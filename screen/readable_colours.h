@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QWidget>
 
 #include "surface/property.h"
 
@@ -29,5 +30,8 @@ QPalette readingPalette(const QPalette& palette);
 
 // What a mark says in words; empty for the colours of the system.
 QString markInWords(Colour backColor);
+
+// Shows the BackColor of a text or combo box: as a background, and in words for who does not see it.
+void showBoxColour(QWidget& box, Colour backColor);
 
 }  // namespace orvane

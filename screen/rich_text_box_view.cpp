@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "screen/rich_text_view.h"
 #include "surface/failure.h"
 

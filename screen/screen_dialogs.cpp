@@ -4,8 +4,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "canvas/qt_text.h"
 #include "screen/pointer_shape.h"
-#include "screen/qt_text.h"
 #include "screen/windows.h"
 #include "surface/desktop.h"
 

@@ -7,7 +7,7 @@
 #include <QWheelEvent>
 
 #include "screen/form_view.h"
-#include "screen/placing.h"
+#include "screen/measures.h"
 
 namespace orvane {
 namespace {

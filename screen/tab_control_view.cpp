@@ -5,7 +5,7 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "surface/form.h"
 
 namespace orvane {

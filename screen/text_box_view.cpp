@@ -5,8 +5,7 @@
 #include <QSignalBlocker>
 #include <QTextCursor>
 
-#include "screen/box_colour.h"
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "screen/readable_colours.h"
 
 namespace orvane {

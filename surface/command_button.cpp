@@ -1,5 +1,7 @@
 #include "surface/command_button.h"
 
+#include "surface/form.h"
+
 namespace orvane {
 
 CommandButton::CommandButton(Place place, std::string name, Design design)
@@ -14,6 +16,12 @@ PropertyList CommandButton::properties() const { return {{"Enabled", Enabled()},
 
 Effect CommandButton::prepareClick() {
   return [this] { Click.fire(); };
+}
+
+CommandButton* cancelButton(const Form& form) {
+  for (auto* control : form.controls())
+    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->isCancel()) return button;
+  return nullptr;
 }
 
 }  // namespace orvane

@@ -32,6 +32,9 @@ class CommandButton : public Control {
   bool cancel_;
 };
 
+// The button of a form that the Escape key presses; null for none.
+CommandButton* cancelButton(const Form& form);
+
 // The designs of a pair of arrow buttons: index 0 steps down, index 1 steps up.
 inline const CommandButton::Design leftArrow{.picture = CommandButton::Picture::LeftArrow};
 inline const CommandButton::Design rightArrow{.picture = CommandButton::Picture::RightArrow};

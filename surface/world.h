@@ -67,7 +67,10 @@ class Files {
   virtual void Kill(const std::string& path) = 0;
 };
 
-// A surface of 96 dots per inch that texts are printed on for good. Measures are twips (1/1440 inch, 15 a pixel).
+// Twips are 1/1440 inch, pixels 1/96, on paper as on the screen.
+inline constexpr float twipsPerPixel = 15;
+
+// A surface of 96 dots per inch that texts are printed on for good. Measures are twips.
 class Canvas {
  public:
   virtual ~Canvas() = default;

@@ -5,7 +5,7 @@
 #include <QAccessible>
 #include <QRegularExpression>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "tests/screen/every_form.h"
 
 namespace orvane::test {

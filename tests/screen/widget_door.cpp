@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane::test {
 namespace {

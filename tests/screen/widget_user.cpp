@@ -17,7 +17,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 #include "surface/combo_box.h"
 #include "surface/list_box.h"
 #include "surface/list_view.h"

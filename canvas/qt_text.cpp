@@ -1,4 +1,4 @@
-#include "screen/qt_text.h"
+#include "canvas/qt_text.h"
 
 namespace orvane {
 
@@ -18,15 +18,5 @@ std::string typedLines(const QString& text) {
 }
 
 QString withoutMnemonics(std::string_view text) { return toQt(text).replace('&', "&&"); }
-
-QString spoken(std::string_view caption) {
-  const QString text = toQt(caption);
-  QString said;
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    if (text[i] == '&' && ++i == text.size()) break;
-    said += text[i];
-  }
-  return said;
-}
 
 }  // namespace orvane

@@ -18,7 +18,5 @@ std::string typedLines(const QString& text);
 
 // The text that a widget which reads "&" as a mnemonic shows as it stands.
 QString withoutMnemonics(std::string_view text);
-// "V&isualiser" is "Visualiser"
-QString spoken(std::string_view caption);
 
 }  // namespace orvane
