@@ -12,7 +12,8 @@ std::size_t largestPiece = unlimited;  // the first one above is refused, once
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Out of line, as a compiler that sees only the one or the other takes them for a mismatch.
+[[gnu::noinline]] void* operator new(std::size_t size) {
   const bool refused = size > largestPiece;
   if (refused) largestPiece = unlimited;
   void* const memory = refused ? nullptr : std::malloc(size);
