@@ -11,7 +11,7 @@ ScriptPlayer::ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing)
       clock_(parts.timeOfDay),
       run_({parts.door ? parts.door->dialogs(dialogs_) : dialogs_, clock_, settings_, parts.files, parts.pictures}),
       user_(parts.door ? parts.door->user(run_) : std::make_unique<User>(run_.desktop())),
-      stage_(run_.desktop(), *user_, transcript_, dialogs_, clock_),
+      stage_{run_.desktop(), *user_, transcript_, dialogs_, clock_},
       keepGoing_(keepGoing) {
   dialogs_.playModal = [this](Form& form) { playModal(form); };
 }
@@ -20,7 +20,7 @@ bool ScriptPlayer::play(const std::vector<Script>& scripts) {
   if (!scripts.empty()) transcript_.moveTo(scripts.front().file, 0);
   run_.Main();
   for (const auto& script : scripts) playScript(script);
-  if (frmMain* window = run_.mainWindow()) stage_.user().close(*window);
+  if (frmMain* window = run_.mainWindow()) stage_.user.close(*window);
   return !transcript_.hasFaults();
 }
 
@@ -50,7 +50,7 @@ void ScriptPlayer::playAct(const Act& act) {
 void ScriptPlayer::playModal(Form& form) {
   while (form.isLoaded() && playNext()) {
   }
-  if (form.isLoaded()) stage_.user().close(form);
+  if (form.isLoaded()) stage_.user.close(form);
 }
 
 }  // namespace orvane

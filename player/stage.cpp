@@ -3,23 +3,26 @@
 #include "surface/menu_item.h"
 
 namespace orvane {
+namespace {
 
-Form& Stage::activeForm() const {
-  if (Form* dialog = desktop_.modal()) return *dialog;
-  if (Form* child = desktop_.activeChild()) return *child;
-  throw Refusal{"Aucune fenêtre n'est ouverte."};
-}
-
-Control* Stage::menuEntry(const ControlName& name) const {
-  for (const auto& form : desktop_.Forms())
+Control* menuEntry(const Desktop& desktop, const ControlName& name) {
+  for (const auto& form : desktop.Forms())
     if (form->role() == Form::Role::Frame)
       if (auto* entry = dynamic_cast<MenuItem*>(form->find(name.name, name.index))) return entry;
   return nullptr;
 }
 
+}  // namespace
+
+Form& Stage::activeForm() const {
+  if (Form* dialog = desktop.modal()) return *dialog;
+  if (Form* child = desktop.activeChild()) return *child;
+  throw Refusal{"Aucune fenêtre n'est ouverte."};
+}
+
 Control& Stage::control(const ControlName& name) const {
-  if (Control* entry = menuEntry(name)) {
-    if (const Form* dialog = desktop_.modal())
+  if (Control* entry = menuEntry(desktop, name)) {
+    if (const Form* dialog = desktop.modal())
       throw Refusal{name.text() + " : la fenêtre « " + dialog->title() + " » attend d'abord une réponse."};
     return *entry;
   }
@@ -29,7 +32,7 @@ Control& Stage::control(const ControlName& name) const {
 }
 
 Form& Stage::window(const Entry& which) const {
-  const auto& forms = desktop_.Forms();
+  const auto& forms = desktop.Forms();
   if (const int* position = std::get_if<int>(&which)) {
     if (*position >= 0 && static_cast<std::size_t>(*position) < forms.size())
       return *forms[static_cast<std::size_t>(*position)];

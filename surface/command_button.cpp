@@ -4,14 +4,6 @@
 
 namespace orvane {
 
-CommandButton::CommandButton(Place place, std::string name, Design design)
-    : Control(place, std::move(name)),
-      caption_(std::move(design.caption)),
-      picture_(design.picture),
-      cancel_(design.cancel) {
-  setVisible(design.visible);
-}
-
 PropertyList CommandButton::properties() const { return {{"Enabled", Enabled()}, {"Visible", Visible()}}; }
 
 Effect CommandButton::prepareClick() {

@@ -14,11 +14,14 @@ class CommandButton : public Control {
     bool visible = true;
   };
 
-  CommandButton(Place place, std::string name, Design design = byDefault<Design>());
+  CommandButton(Place place, std::string name, Design design = byDefault<Design>())
+      : Control(place, std::move(name)), design_(std::move(design)) {
+    setVisible(design_.visible);
+  }
 
-  const std::string& Caption() const { return caption_; }
-  Picture picture() const { return picture_; }
-  bool isCancel() const { return cancel_; }
+  const std::string& Caption() const { return design_.caption; }
+  Picture picture() const { return design_.picture; }
+  bool isCancel() const { return design_.cancel; }
 
   Event<> Click{*this};
 
@@ -27,9 +30,7 @@ class CommandButton : public Control {
   Effect prepareClick() override;
 
  private:
-  std::string caption_;
-  Picture picture_;
-  bool cancel_;
+  Design design_;
 };
 
 // The button of a form that the Escape key presses; null for none.

@@ -11,11 +11,12 @@ class Label : public Control {
     std::string tag = {};
   };
 
-  Label(Place place, std::string name, Design design = byDefault<Design>());
+  Label(Place place, std::string name, Design design = byDefault<Design>())
+      : Control(place, std::move(name)), design_(std::move(design)) {}
 
-  const std::string& Caption() const { return caption_; }
-  void setCaption(std::string caption) { store(caption_, std::move(caption)); }
-  const std::string& Tag() const { return tag_; }
+  const std::string& Caption() const { return design_.caption; }
+  void setCaption(std::string caption) { store(design_.caption, std::move(caption)); }
+  const std::string& Tag() const { return design_.tag; }
 
   Event<> Click{*this};
 
@@ -25,8 +26,7 @@ class Label : public Control {
   Effect prepareClick() override;
 
  private:
-  std::string caption_;
-  std::string tag_;
+  Design design_;
 };
 
 }  // namespace orvane

@@ -1,3 +1,5 @@
+#include "surface/list_item.h"
+
 #include <algorithm>
 
 #include "surface/list_view.h"

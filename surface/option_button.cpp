@@ -4,9 +4,6 @@
 
 namespace orvane {
 
-OptionButton::OptionButton(Place place, std::string name, Design design)
-    : Control(place, std::move(name)), caption_(std::move(design.caption)), tag_(std::move(design.tag)) {}
-
 void OptionButton::setValue(bool value) {
   if (value_ == value) return;
   if (value) clearGroup();

@@ -12,13 +12,14 @@ class OptionButton : public Control {
     std::string tag = {};
   };
 
-  OptionButton(Place place, std::string name, Design design = byDefault<Design>());
+  OptionButton(Place place, std::string name, Design design = byDefault<Design>())
+      : Control(place, std::move(name)), design_(std::move(design)) {}
 
   bool Value() const { return value_; }
   // Selecting one clears the others of the group; only the one selected fires Click.
   void setValue(bool value);
-  const std::string& Caption() const { return caption_; }
-  const std::string& Tag() const { return tag_; }
+  const std::string& Caption() const { return design_.caption; }
+  const std::string& Tag() const { return design_.tag; }
 
   Event<> Click{*this};
 
@@ -30,8 +31,7 @@ class OptionButton : public Control {
   void clearGroup();
 
   bool value_ = false;
-  std::string caption_;
-  std::string tag_;
+  Design design_;
 };
 
 }  // namespace orvane

@@ -36,17 +36,14 @@ class PictureBox : public PlacedControl {
 
   PictureBox(Place place, std::string name, Design design = byDefault<Design>());
 
-  bool AutoSize() const { return autoSize_; }
   // True: the box takes the size of its picture.
   void setAutoSize(bool autoSize);
-  int BorderStyle() const { return borderStyle_; }
   void setBorderStyle(int style) { store(borderStyle_, style); }
   // Of what stands on it: 1 twips, 7 centimetres.
   int ScaleMode() const { return scaleMode_; }
   void setScaleMode(int mode) { store(scaleMode_, mode); }
 
   // All that follows fails on a box without a picture. Measures are twips inside the picture.
-  const std::string& FontName() const { return fontName_; }
   void setFontName(std::string name);
   float FontSize() const { return fontSize_; }
   void setFontSize(float points);

@@ -23,7 +23,6 @@ class TabControl : public Control {
   void setTabEnabled(int tab, bool enabled) { store(tabs_[checked(tab)].enabled, enabled); }
   bool TabVisible(int tab) const { return tabs_[checked(tab)].visible; }
   void setTabVisible(int tab, bool visible) { store(tabs_[checked(tab)].visible, visible); }
-  int TabsPerRow() const { return tabsPerRow_; }
   void setTabsPerRow(int count) { store(tabsPerRow_, count); }
 
   // With the tab that was selected before.

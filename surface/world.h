@@ -51,6 +51,16 @@ class Settings {
                            const std::string& value) = 0;
 };
 
+// Always the defaults; what is saved is forgotten.
+class NoSettings : public Settings {
+ public:
+  std::string GetSetting(const std::string&, const std::string&, const std::string&,
+                         const std::string& defaultValue) override {
+    return defaultValue;
+  }
+  void SaveSetting(const std::string&, const std::string&, const std::string&, const std::string&) override {}
+};
+
 // Files by path, relative to the current directory. All but the questions fail with a French reason that names the
 // path.
 class Files {

@@ -33,7 +33,7 @@ class Tour {
     run_.Main();
   }
   ~Tour() {
-    if (auto* frame = run_.mainWindow()) stage_.user().close(*frame);
+    if (auto* frame = run_.mainWindow()) stage_.user.close(*frame);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
@@ -70,7 +70,7 @@ class Tour {
   void playModal(Form& form) {
     while (form.isLoaded() && playNext()) {
     }
-    if (form.isLoaded()) stage_.user().close(form);
+    if (form.isLoaded()) stage_.user.close(form);
   }
 
   // As large as the window inside it, wherever that stands, and no larger than needed.

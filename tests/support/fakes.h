@@ -17,16 +17,6 @@ class FakeClock : public Clock {
   void sleep(float seconds) override { now += seconds; }
 };
 
-// A store that remembers nothing.
-class NoSettings : public Settings {
- public:
-  std::string GetSetting(const std::string&, const std::string&, const std::string&,
-                         const std::string& defaultValue) override {
-    return defaultValue;
-  }
-  void SaveSetting(const std::string&, const std::string&, const std::string&, const std::string&) override {}
-};
-
 // Every character is 5 times its size in points wide, every line 20 times that high: 50 and 200 twips at 10 points.
 // As a bitmap it gives the name of its picture and all that was printed on it.
 class BlankCanvas : public Canvas {
