@@ -73,7 +73,7 @@ class Loader {
   }
 
   void noteAssermente(RecordLine& line) {
-    if (data_.colProfil(data_.colProfil.Count())->sName != "Assermenté") return;
+    if (data_.colProfil(data_.colProfil.Count())->canBeChosen()) return;
     if (data_.colProfil.Count() > lastPosition)
       line.fault(FaultKind::AssermenteOutOfReach);
     else

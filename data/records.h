@@ -30,13 +30,17 @@ struct clsContact {
 };
 
 struct clsProfil {
+  // Of the profile whose skills all sworn profiles bring as well as their own, and which nobody can choose.
+  static inline const std::string swornName = "Assermenté";
+
   std::string sName;
-  // The profile also brings the skills of the profile "Assermenté".
+  // A sworn profile.
   bool bAsserm = false;
-  // Keys of skills; 101 stands for the skill of the favourite vehicle.
+  // Keys of skills, or the code that stands for the skill of the favourite vehicle.
   Collection<double> colSkillPro;
   std::string sDescro;
 
+  bool canBeChosen() const { return sName != swornName; }
   // A copy whose list can be changed without touching this one.
   std::shared_ptr<clsProfil> Duplicate() const;
 };

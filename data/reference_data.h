@@ -17,7 +17,7 @@ struct ReferenceData {
   Collection<std::shared_ptr<const clsMutation>> colMutation;
   Collection<std::shared_ptr<const clsMartialArt>> colMartialArt;
   Collection<std::shared_ptr<const clsDistrict>> colDistrict;
-  // Position in colProfil of the last profile named "Assermenté", 0 without one.
+  // Position in colProfil of the last profile of the sworn name, 0 without one.
   std::int16_t iProfilAsserm = 0;
 };
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "editor/numbers_in_controls.h"
 
 namespace orvane {
@@ -19,8 +17,8 @@ struct TechnicRow {
 
 // What the two rows of an art are called, and the type of the techniques that each can buy.
 struct Direction {
-  std::string_view name;
-  std::string_view technicType;
+  const char* name;
+  const char* technicType;
 };
 inline constexpr Direction offensive{"Offensif", "o"};
 inline constexpr Direction defensive{"Défensif", "d"};

@@ -1,17 +1,12 @@
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "editor/frmPersonnage.h"
 #include "editor/numbers_in_controls.h"
+#include "editor/pools.h"
 
 namespace orvane {
-namespace {
-
-constexpr double lowestCaract = -2;
-constexpr double highestCaract = 3;
-constexpr int negativesAllowed = 2;
-
-}  // namespace
 
 std::vector<OptionButton::Design> frmPersonnage::characteristicDesigns() {
   return {
@@ -37,6 +32,24 @@ std::vector<Label::Design> frmPersonnage::secondaryDesigns() {
   };
 }
 
+void frmPersonnage::wireCaracteristiques() {
+  using F = frmPersonnage;
+  on(cmdCaractModif, &CommandButton::Click, &F::cmdCaractModif_Click);
+  on(txtCaract, &TextBox::Change, &F::txtCaract_Change);
+  on(optCaract, &OptionButton::Click, &F::optCaract_Click);
+  on(lblSecondCaract, &Label::Click, &F::lblSecondCaract_Click);
+}
+
+void frmPersonnage::loadCaracteristiques() {
+  setNumber(txtCaractRest, caractPool);
+  for (auto& value : txtCaract) setNumber(value, 0);
+}
+
+void frmPersonnage::enterCaracteristiques() {
+  optCaract(iCaractSel).setValue(true);
+  txtAllDescro.setText(optCaract(iCaractSel).Tag());
+}
+
 void frmPersonnage::cmdCaractModif_Click(std::int16_t Index) {
   if (Index == 0 && wouldBeThirdNegative()) return;
   stepCaract(Index);
@@ -47,7 +60,7 @@ bool frmPersonnage::wouldBeThirdNegative() const {
   if (number(txtCaract(iCaractSel)) != 0) return false;
   int negatives = 0;
   for (int i = 0; i < txtCaract.size(); ++i) negatives += number(txtCaract(i)) < 0;
-  return negatives == negativesAllowed;
+  return negatives == negativeCaractsAllowed;
 }
 
 void frmPersonnage::stepCaract(std::int16_t Index) {
@@ -71,20 +84,11 @@ void frmPersonnage::enableSelectableCaracts() {
 }
 
 void frmPersonnage::txtCaract_Change(std::int16_t Index) {
-  const auto sum = [this](int one, int other) { return number(txtCaract(one)) + number(txtCaract(other)); };
-  switch (Index) {
-    case 0:
-    case 4:
-      return setNumber(txtEV, sum(4, 0));
-    case 1:
-    case 5:
-      return setNumber(txtR, sum(5, 1));
-    case 2:
-    case 6:
-      return setNumber(txtSF, sum(6, 2));
-    default:
-      return;
-  }
+  const std::array secondaries{&txtEV, &txtR, &txtSF};
+  // Each adds up two characteristics that stand four places apart; the last two go into none.
+  const int first = Index % 4;
+  if (first == 3) return;
+  setNumber(*secondaries[static_cast<std::size_t>(first)], number(txtCaract(first)) + number(txtCaract(first + 4)));
 }
 
 void frmPersonnage::optCaract_Click(std::int16_t Index) {

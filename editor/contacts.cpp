@@ -1,20 +1,17 @@
-#include <array>
-
 #include "editor/frmContact.h"
 #include "editor/frmPersonnage.h"
 #include "editor/numbers_in_controls.h"
+#include "editor/pools.h"
 #include "surface/desktop.h"
 #include "surface/failure.h"
 
 namespace orvane {
 namespace {
 
-constexpr double lowestValue = 0;
-constexpr double highestValue = 3;
 constexpr const char* noContactToChange = "Pas de contact à modifier.";
 
 // By value: what the step up to it costs, and the step down from it gives back.
-std::int16_t price(const std::array<std::int16_t, 4>& prices, double value) {
+std::int16_t price(const ContactPrices& prices, double value) {
   const std::int16_t position = toInt16(value);
   if (position < 1 || static_cast<std::size_t>(position) >= prices.size())
     throw Failure("Un contact de valeur " + numberText(value) + " n'a pas de prix.");
@@ -22,6 +19,29 @@ std::int16_t price(const std::array<std::int16_t, 4>& prices, double value) {
 }
 
 }  // namespace
+
+void frmPersonnage::wireContacts() {
+  using F = frmPersonnage;
+  on(cmdContactNew.Click, &F::cmdContactNew_Click);
+  on(cmdContactChange.Click, &F::cmdContactChange_Click);
+  on(cmdContactDel.Click, &F::cmdContactDel_Click);
+  on(cmdContactModif, &CommandButton::Click, &F::cmdContactModif_Click);
+  on(cmdContactModif, &CommandButton::LostFocus, &F::cmdContactModif_LostFocus);
+  on(lstContact.Click, &F::lstContact_Click);
+  on(optContact, &OptionButton::Click, &F::optContact_Click);
+  on(txtContactDescro.LostFocus, &F::txtContactDescro_LostFocus);
+}
+
+void frmPersonnage::loadContacts() {
+  setNumber(txtContactRest, contactPool);
+  for (auto& value : txtContact) setNumber(value, 0);
+  enableContactButtons(false);
+}
+
+void frmPersonnage::enterContacts() {
+  optContact(0).setValue(true);
+  txtAllDescro.setText("");
+}
 
 void frmPersonnage::enableContactButtons(bool enabled) {
   cmdContactChange.setEnabled(enabled);
@@ -87,13 +107,13 @@ void frmPersonnage::cmdContactModif_Click(std::int16_t Index) {
 }
 
 void frmPersonnage::stepContactDown(TextBox& value) {
-  if (number(value) <= lowestValue) return;
+  if (number(value) <= 0) return;
   add(txtContactRest, price(globals_.iContactCost, number(value)));
   add(value, -1);
 }
 
 void frmPersonnage::stepContactUp(TextBox& value) {
-  if (number(value) >= highestValue) return;
+  if (number(value) >= highestContactValue) return;
   const std::int16_t cost = price(globals_.iContactCost, number(value) + 1);
   if (number(txtContactRest) < cost) return;
   add(txtContactRest, -cost);

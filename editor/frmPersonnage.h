@@ -32,8 +32,8 @@ class frmPersonnage : public Form {
   // The caption of the window of a character, by which a sheet finds it again.
   static std::string captionOf(const std::string& name) { return "Définition " + name; }
 
-  // The tabs, by position.
-  enum TabPosition { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation };
+  // The tabs, by position; the tab control has more, which stay hidden.
+  enum TabPosition { EtatCivil, Caracteristiques, Contacts, Competences, ArtsMartiaux, Mutation, TabCount };
 
   // --- Around the tabs (frmPersonnage.cpp)
   Label Label2{*this, "Label2", {"Nom Joueur"}};
@@ -47,7 +47,7 @@ class frmPersonnage : public Form {
                           "Mutation", "Tab 6", "Tab 7"}}};
   TextBox txtAllDescro{*this, "txtAllDescro", {.readOnly = true}};
 
-  // --- Civil status and languages (civil_status.cpp), profile and vehicle (profile.cpp)
+  // --- Civil status and languages (civil_status.cpp), profile and vehicle (profile.cpp, profile_skills.cpp)
   Label Label1{onTab(EtatCivil), "Label1", {"Nom Personnage"}};
   TextBox txtPerso{onTab(EtatCivil), "txtPerso"};
   Label Label5{onTab(EtatCivil), "Label5", {"Age"}};
@@ -144,14 +144,20 @@ class frmPersonnage : public Form {
   // This character's private copy of the martial arts, in the order of colMartialArt.
   Collection<std::shared_ptr<clsMartialArt>> colPersoArt;
 
-  // The art of a row of lvwMartialArt (martial_arts.cpp).
-  clsMartialArt& artOf(const ListItem& row) const;
+  // The name that the user gave to the third language, empty while it has none (civil_status.cpp).
+  std::string otherLanguage() const;
   // The four buttons that act on a selected contact (contacts.cpp).
   void enableContactButtons(bool enabled);
-  // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
-  bool prcValidate();
   // True for a row that the skill columns of the sheet leave out (skills.cpp).
   bool prcSkillNotOnSheet(const ListItem& itm) const;
+  // The art of a row of lvwMartialArt (martial_arts.cpp).
+  clsMartialArt& artOf(const ListItem& row) const;
+  enum class MutationState { NoPower, ChosenPower, DrawnPower };
+  MutationState mutationState() const;
+  // The power that is selected, null for none (mutation.cpp).
+  const clsMutation* selectedPower() const;
+  // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
+  bool prcValidate();
 
  protected:
   void Form_Load() override;
@@ -163,33 +169,21 @@ class frmPersonnage : public Form {
   static std::vector<OptionButton::Design> characteristicDesigns();
   static std::vector<Label::Design> secondaryDesigns();
 
+  // Each tab has its wire..., which the constructor calls, its load..., a step of Form_Load, and its enter..., for
+  // whenever it is picked.
+
   // --- Around the tabs
-  void wire();
-  void fillGrades();
-  void fillProfiles();
-  void fillEthnicGroups();
-  void fillDistricts();
-  void resetLanguages();
-  void resetCharacteristics();
-  void resetContacts();
-  void resetMutation();
-  void setSkillColumns();
-  void setMartialColumns();
-  void copyMartialArts();
-  void addMartialRows();
   void SSTabPerso_Click(std::int16_t PreviousTab);
-  void enterEtatCivil();
-  void enterCaracteristiques();
-  void enterContacts();
-  void enterCompetences();
-  void enterArtsMartiaux();
-  void enterMutation();
-  void txtPerso_LostFocus();
   void cmdPrintPreview_Click();
   void cmdHelp_Click();
   void cmdClose_Click();
 
   // --- Civil status and languages
+  void wireEtatCivil();
+  void loadGrades();
+  void loadEtatCivil();
+  void enterEtatCivil();
+  void txtPerso_LostFocus();
   void cmbDistrict_Click();
   void cmbDistrict_Change();
   void cmbGrade_Click();
@@ -198,7 +192,36 @@ class frmPersonnage : public Form {
   void txtOtherLang_GotFocus();
   void prcLangDegréDescro();
 
+  // --- Profile and vehicle
+  // Private copies of the profiles that are applied: the chosen one, then that of all sworn ones if it is sworn.
+  using ProfileCopies = std::vector<std::shared_ptr<clsProfil>>;
+  enum class VehicleCode { Absent, Replaced, Repeated };
+  void wireProfil();
+  void loadProfil();
+  void cmbProfil_Click();
+  void cmbVehicle_Click();
+  void resetSkillSide();
+  void openSkillSide(const clsProfil& chosen);
+  void closeSkillSide();
+  ProfileCopies copyProfiles() const;
+  VehicleCode replaceVehicleCode(const ProfileCopies& profiles);
+  void putVehicleSkill(clsProfil& profile);
+  void resetMartialArts();
+  void setGrade(bool sworn);
+  void setVehicle(bool usesVehicle);
+  void showProfil(const clsProfil& profile);
+  bool buildSkillList(const ProfileCopies& profiles);
+  bool addProfileSkill(const clsSkill& skill);
+  bool addMartialSkillLevels(ListItem& row);
+  ListItemRef addSkillRow(const clsSkill& skill, double level, bool ofProfile);
+  bool paySkillPoints(double cost);
+  void warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill);
+  void showFirstSkill();
+
   // --- Characteristics
+  void wireCaracteristiques();
+  void loadCaracteristiques();
+  void enterCaracteristiques();
   void cmdCaractModif_Click(std::int16_t Index);
   void txtCaract_Change(std::int16_t Index);
   void optCaract_Click(std::int16_t Index);
@@ -208,6 +231,9 @@ class frmPersonnage : public Form {
   void enableSelectableCaracts();
 
   // --- Contacts
+  void wireContacts();
+  void loadContacts();
+  void enterContacts();
   void cmdContactNew_Click();
   void cmdContactChange_Click();
   void cmdContactDel_Click();
@@ -224,30 +250,10 @@ class frmPersonnage : public Form {
   void refund(std::int16_t& value);
   void leaveNoContact();
 
-  // --- Profile application
-  // Private copies of the profiles that are applied: the chosen one, then "Assermenté" where it asks for it.
-  using ProfileCopies = std::vector<std::shared_ptr<clsProfil>>;
-  enum class VehicleCode { Absent, Replaced, Repeated };
-  void cmbProfil_Click();
-  void cmbVehicle_Click();
-  void resetSkillSide();
-  void closeSkillSide();
-  ProfileCopies copyProfiles() const;
-  VehicleCode replaceVehicleCode(const ProfileCopies& profiles);
-  void putVehicleSkill(clsProfil& profile);
-  void resetMartialArts();
-  bool buildSkillList(const ProfileCopies& profiles);
-  bool addProfileSkill(const clsSkill& skill);
-  bool addMartialSkillLevels(ListItem& row);
-  ListItemRef addSkillRow(const clsSkill& skill, double level, bool ofProfile);
-  bool paySkillPoints(double cost);
-  void warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill);
-  void showFirstSkill();
-  void openSkillSide(const clsProfil& chosen);
-  void setGrade(bool sworn);
-  void setVehicle(bool usesVehicle);
-
   // --- Skills
+  void wireCompetences();
+  void loadCompetences();
+  void enterCompetences();
   void lvwSkillGen_ItemClick(ListItemRef Item);
   void cmdSkillGenModif_Click(std::int16_t Index);
   void lvwSkillGen_BeforeLabelEdit(bool& Cancel);
@@ -257,6 +263,10 @@ class frmPersonnage : public Form {
   void stepSkillUp(ListItem& row, double highest);
 
   // --- Martial arts
+  void wireArtsMartiaux();
+  void loadArtsMartiaux();
+  void setMartialColumns();
+  void enterArtsMartiaux();
   void cmdMartialArtModif_Click(std::int16_t Index);
   void lvwMartialArt_ItemClick(ListItemRef Item);
   void lvwMartialTechnic_ItemClick(ListItemRef Item);
@@ -267,6 +277,9 @@ class frmPersonnage : public Form {
   void addMartialPoint(ListItem& row);
 
   // --- Mutation
+  void wireMutation();
+  void loadMutation();
+  void enterMutation();
   void chkMuta_Click();
   void cmbMutaCateg_Click();
   void cmbMutaName_Click();
@@ -281,7 +294,6 @@ class frmPersonnage : public Form {
   // --- Validation
   void checkFields(Verdict& verdict);
   void repairAge();
-  bool otherLanguageLacksItsName() const;
   void checkSkillNames(Verdict& verdict);
   bool lacksItsName(const ListItem& row) const;
   void checkMartialArts(Verdict& verdict);

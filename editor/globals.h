@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <functional>
 
+#include "editor/pools.h"
 #include "surface/chance.h"
 
 namespace orvane {
@@ -22,8 +21,8 @@ struct Globals {
   const ReferenceData& data;
   Chance chance;
 
-  // The points that a contact value costs, by value from 1 to 3 (place 0 is unused). Main fills it.
-  std::array<std::int16_t, 4> iContactCost{};
+  // Filled by Main.
+  ContactPrices iContactCost{};
   // The windows last created or activated; null once they were unloaded and no other of the kind is open.
   frmPersonnage* frmCurrentPerso = nullptr;
   frmFeuille* frmCurrentFeuille = nullptr;

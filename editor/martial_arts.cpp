@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "data/reference_data.h"
 #include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
 #include "editor/martial_restrict.h"
@@ -15,15 +16,42 @@ bool belongsTo(const clsMartialTechnic& technic, const ListItem& artRow) {
   return false;
 }
 
-}  // namespace
-
-clsMartialArt& frmPersonnage::artOf(const ListItem& row) const {
-  return *colPersoArt(toInt16(number(row, ArtRow::Position)));
+void addRow(ListView& arts, const std::string& name, const Direction& direction, std::int32_t position) {
+  const auto row = arts.Add();
+  row->setText(name);
+  row->setSubItems(ArtRow::Direction, direction.name);
+  setNumber(*row, ArtRow::Points, 0);
+  setNumber(*row, ArtRow::Position, position);
 }
 
-// Of a row of lvwMartialTechnic, which shows the techniques of the selected row of lvwMartialArt.
-clsMartialTechnic& frmPersonnage::technicOf(const ListItem& row) const {
-  return *artOf(*lvwMartialArt.SelectedItem()).colMartialTechnic(toInt16(number(row, TechnicRow::Position)));
+}  // namespace
+
+void frmPersonnage::wireArtsMartiaux() {
+  using F = frmPersonnage;
+  on(cmdMartialArtModif, &CommandButton::Click, &F::cmdMartialArtModif_Click);
+  on(lvwMartialArt.ItemClick, &F::lvwMartialArt_ItemClick);
+  on(lvwMartialTechnic.ItemClick, &F::lvwMartialTechnic_ItemClick);
+  on(lvwMartialTechnic.ItemCheck, &F::lvwMartialTechnic_ItemCheck);
+}
+
+void frmPersonnage::loadArtsMartiaux() {
+  setMartialColumns();
+  for (const auto& art : data_.colMartialArt) colPersoArt.Add(art->Duplicate());
+  for (std::int32_t i = 1; i <= colPersoArt.Count(); ++i) {
+    addRow(lvwMartialArt, colPersoArt(i)->sName, offensive, i);
+    addRow(lvwMartialArt, "", defensive, i);
+  }
+}
+
+void frmPersonnage::setMartialColumns() {
+  lvwMartialArt.clearColumnHeaders();
+  lvwMartialArt.addColumnHeader(lvwMartialArt.Width() - 1400 - 350);
+  lvwMartialArt.addColumnHeader(1000);
+  lvwMartialArt.addColumnHeader(400, true);
+  lvwMartialArt.addColumnHeader(0);
+  lvwMartialTechnic.clearColumnHeaders();
+  lvwMartialTechnic.addColumnHeader(lvwMartialTechnic.Width() - 300);
+  lvwMartialTechnic.addColumnHeader(0);
 }
 
 void frmPersonnage::enterArtsMartiaux() {
@@ -34,6 +62,15 @@ void frmPersonnage::enterArtsMartiaux() {
     txtMartialTechnicRest.setText("");
     txtAllDescro.setText("");
   }
+}
+
+clsMartialArt& frmPersonnage::artOf(const ListItem& row) const {
+  return *colPersoArt(toInt16(number(row, ArtRow::Position)));
+}
+
+// Of a row of lvwMartialTechnic, which shows the techniques of the selected row of lvwMartialArt.
+clsMartialTechnic& frmPersonnage::technicOf(const ListItem& row) const {
+  return *artOf(*lvwMartialArt.SelectedItem()).colMartialTechnic(toInt16(number(row, TechnicRow::Position)));
 }
 
 void frmPersonnage::cmdMartialArtModif_Click(std::int16_t Index) {

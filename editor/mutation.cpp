@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string_view>
 
 #include "data/reference_data.h"
 #include "editor/frmPersonnage.h"
 #include "editor/numbers_in_controls.h"
-#include "editor/skill_rules.h"
+#include "editor/pools.h"
 #include "surface/desktop.h"
 #include "surface/text.h"
 
@@ -14,8 +13,8 @@ namespace orvane {
 namespace {
 
 struct CategoryText {
-  std::string_view category;  // in lower case
-  std::string_view text;
+  const char* category;  // in lower case
+  const char* text;
 };
 constexpr std::array<CategoryText, 4> categoryTexts{{
     {"alpha", "Les Alpha sont les capacités d'améliorations physiques classiques."},
@@ -27,7 +26,7 @@ constexpr std::array<CategoryText, 4> categoryTexts{{
 std::string categoryText(const std::string& category) {
   const std::string lower = lowerCase(category);
   for (const auto& known : categoryTexts)
-    if (known.category == lower) return std::string(known.text);
+    if (known.category == lower) return known.text;
   return category + " : catégorie de mutations inconnue.";
 }
 
@@ -37,11 +36,41 @@ std::string powerEntry(const clsMutation& power) {
   return std::string(3 - std::min<std::size_t>(3, digits.size()), ' ') + digits + " " + power.sName;
 }
 
-std::string skillPoints(double points, std::string_view whatBecame) {
-  return numberText(points) + " points de compétence " + std::string(whatBecame);
+std::string skillPoints(double points, const char* whatBecame) {
+  return numberText(points) + " points de compétence " + whatBecame;
 }
 
 }  // namespace
+
+void frmPersonnage::wireMutation() {
+  using F = frmPersonnage;
+  on(chkMuta.Click, &F::chkMuta_Click);
+  on(cmbMutaCateg.Click, &F::cmbMutaCateg_Click);
+  on(cmbMutaName.Click, &F::cmbMutaName_Click);
+  on(cmbMutaSign.Change, &F::cmbMutaSign_Change);
+  on(cmdMutaRandomChoice.Click, &F::cmdMutaRandomChoice_Click);
+}
+
+void frmPersonnage::loadMutation() {
+  cmbMutaSign.setListIndex(0);
+  cmbMutaSign.setVisible(false);
+  lblMutaSign.setVisible(false);
+  cmbMutaCateg.setListIndex(0);
+}
+
+void frmPersonnage::enterMutation() {
+  const auto* power = cmbMutaName.Visible() ? selectedPower() : nullptr;
+  txtAllDescro.setText(power ? power->sDescro : "");
+}
+
+frmPersonnage::MutationState frmPersonnage::mutationState() const {
+  if (chkMuta.Value() == 0) return MutationState::NoPower;
+  return cmdMutaRandomChoice.Enabled() ? MutationState::ChosenPower : MutationState::DrawnPower;
+}
+
+const clsMutation* frmPersonnage::selectedPower() const {
+  return cmbMutaName.ListIndex() < 0 ? nullptr : data_.colMutation(cmbMutaName.selectedData()).get();
+}
 
 void frmPersonnage::chkMuta_Click() {
   if (iProfilChanging)
@@ -92,9 +121,8 @@ void frmPersonnage::prcMutaNameChange() {
   cmbMutaName.Clear();
   for (std::int32_t i = 1; i <= data_.colMutation.Count(); ++i) {
     const auto& power = *data_.colMutation(i);
-    if (power.sCateg != cmbMutaCateg.Text() || power.sSign != cmbMutaSign.Text()) continue;
-    cmbMutaName.AddItem(powerEntry(power));
-    cmbMutaName.setItemData(cmbMutaName.NewIndex(), i);
+    if (power.sCateg == cmbMutaCateg.Text() && power.sSign == cmbMutaSign.Text())
+      cmbMutaName.AddItem(powerEntry(power), i);
   }
   if (cmbMutaName.ListCount() > 0)
     cmbMutaName.setListIndex(0);
@@ -103,7 +131,7 @@ void frmPersonnage::prcMutaNameChange() {
 }
 
 void frmPersonnage::cmbMutaName_Click() {
-  txtAllDescro.setText(data_.colMutation(cmbMutaName.ItemData(cmbMutaName.ListIndex()))->sDescro);
+  txtAllDescro.setText(data_.colMutation(cmbMutaName.selectedData())->sDescro);
 }
 
 void frmPersonnage::cmdMutaRandomChoice_Click() {

@@ -1,21 +1,26 @@
 #include "data/reference_data.h"
 #include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
-#include "editor/skill_row.h"
+#include "editor/pools.h"
 #include "editor/skill_rules.h"
 #include "surface/desktop.h"
 #include "surface/failure.h"
 #include "surface/text.h"
 
 namespace orvane {
-namespace {
 
-void setStartLevel(ListItem& row, double level) {
-  setNumber(row, SkillRow::Level, level);
-  setNumber(row, SkillRow::StartLevel, level);
+void frmPersonnage::wireProfil() {
+  on(cmbProfil.Click, &frmPersonnage::cmbProfil_Click);
+  on(cmbVehicle.Click, &frmPersonnage::cmbVehicle_Click);
 }
 
-}  // namespace
+// Applies the first profile at once: it opens the tabs that it needs.
+void frmPersonnage::loadProfil() {
+  for (std::int32_t i = 1; i <= data_.colProfil.Count(); ++i)
+    if (data_.colProfil(i)->canBeChosen()) cmbProfil.AddItem(data_.colProfil(i)->sName, i);
+  for (int tab : {Competences, ArtsMartiaux, Mutation}) SSTabPerso.setTabEnabled(tab, false);
+  cmbProfil.setListIndex(0);
+}
 
 void frmPersonnage::cmbVehicle_Click() {
   if (iProfilChanging) {
@@ -32,7 +37,7 @@ void frmPersonnage::cmbProfil_Click() {
   const ProfileCopies profiles = copyProfiles();
   const VehicleCode vehicle = replaceVehicleCode(profiles);
   if (vehicle == VehicleCode::Repeated) {
-    desktop().MsgBox("Code 101 plusieurs fois dans le profil !", BoxStyle::Critical);
+    desktop().MsgBox("Code " + std::to_string(vehicleCode) + " plusieurs fois dans le profil !", BoxStyle::Critical);
     return Unload();
   }
   resetMartialArts();
@@ -60,10 +65,11 @@ void frmPersonnage::closeSkillSide() {
 }
 
 frmPersonnage::ProfileCopies frmPersonnage::copyProfiles() const {
-  ProfileCopies profiles{data_.colProfil(cmbProfil.ItemData(cmbProfil.ListIndex()))->Duplicate()};
+  ProfileCopies profiles{data_.colProfil(cmbProfil.selectedData())->Duplicate()};
   if (!profiles.front()->bAsserm) return profiles;
   if (data_.iProfilAsserm == 0)
-    throw Failure("Le profil « " + profiles.front()->sName + " » demande le profil « Assermenté », qui manque.");
+    throw Failure("Le profil « " + profiles.front()->sName + " » demande le profil « " + clsProfil::swornName +
+                  " », qui manque.");
   profiles.push_back(data_.colProfil(data_.iProfilAsserm)->Duplicate());
   return profiles;
 }
@@ -92,7 +98,7 @@ void frmPersonnage::putVehicleSkill(clsProfil& profile) {
   while (profile.colSkillPro(position) != vehicleCode) ++position;
   profile.colSkillPro.Remove(position);
   if (data_.colSkill.Count() == 0) return;  // no skill was read: the code has nothing to stand for
-  const std::int32_t skill = cmbVehicle.ItemData(cmbVehicle.ListIndex());
+  const std::int32_t skill = cmbVehicle.selectedData();
   if (skill > data_.colSkill.Count())
     throw Failure("Le véhicule « " + cmbVehicle.Text() + " » renvoie à la compétence n° " + std::to_string(skill) +
                   ", mais il n'y en a que " + std::to_string(data_.colSkill.Count()) + ".");
@@ -106,73 +112,16 @@ void frmPersonnage::resetMartialArts() {
     for (const auto& technic : art->colMartialTechnic) technic->bSelected = false;
 }
 
-// False when the pool was too small: the rows made so far stay.
-bool frmPersonnage::buildSkillList(const ProfileCopies& profiles) {
-  for (const auto& skill : data_.colSkill) {
-    if (skill->iKey == vehicleCode) continue;
-    warnOfRedundancy(profiles, *skill);
-    if (occurrences(profiles, skill->iKey) == 0)
-      addSkillRow(*skill, skill->iStart, false);
-    else if (!addProfileSkill(*skill))
-      return false;
-  }
-  return true;
-}
-
-void frmPersonnage::warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill) {
-  for (int again = 2; again <= occurrences(profiles, skill.iKey); ++again)
-    desktop().MsgBox("Compétence " + skill.sName + " redondante.", BoxStyle::Exclamation);
-}
-
-bool frmPersonnage::addProfileSkill(const clsSkill& skill) {
-  if (!paySkillPoints(profileSkillCost(skill.iStart))) return false;
-  const auto row = addSkillRow(skill, profileSkillLevel, true);
-  return skill.iKey != martialSkillKey || addMartialSkillLevels(*row);
-}
-
-bool frmPersonnage::addMartialSkillLevels(ListItem& row) {
-  SSTabPerso.setTabEnabled(ArtsMartiaux, true);
-  setNumber(txtMartialArtRest, martialSkillLevel);
-  if (!paySkillPoints(martialSkillExtraCost)) return false;
-  setStartLevel(row, martialSkillLevel);
-  return true;
-}
-
-ListItemRef frmPersonnage::addSkillRow(const clsSkill& skill, double level, bool ofProfile) {
-  auto row = lvwSkillGen.Add();
-  row->setText(skill.sName);
-  setNumber(*row, SkillRow::Key, skill.iKey);
-  setStartLevel(*row, level);
-  row->setBold(ofProfile);
-  row->ListSubItems(SkillRow::Level).setForeColor(Colour::Red);
-  row->ListSubItems(SkillRow::Level).setBold(true);
-  return row;
-}
-
-// Says so and pays nothing where the pool is too small. What costs nothing is always paid.
-bool frmPersonnage::paySkillPoints(double cost) {
-  if (cost > 0 && number(txtSkillRest) < cost) {
-    desktop().MsgBox("Pas assez de points de compétences pour toutes les compétences du profil!", BoxStyle::Critical);
-    return false;
-  }
-  add(txtSkillRest, -cost);
-  return true;
-}
-
-void frmPersonnage::showFirstSkill() {
-  lvwSkillGen.setSortKey(0);
-  lvwSkillGen.sort();
-  if (lvwSkillGen.Count() == 0) return;
-  lvwSkillGen.ListItems(1)->select();
-  lvwSkillGen_ItemClick(lvwSkillGen.ListItems(1));
-}
-
 void frmPersonnage::openSkillSide(const clsProfil& chosen) {
   txtSkillPro.setCaption(cmbProfil.Text());
   SSTabPerso.setTabEnabled(Competences, true);
   SSTabPerso.setTabEnabled(Mutation, true);
   setGrade(chosen.bAsserm);
-  txtAllDescro.setText(chosen.sName + crLf + chosen.sDescro);
+  showProfil(chosen);
+}
+
+void frmPersonnage::showProfil(const clsProfil& profile) {
+  txtAllDescro.setText(profile.sName + crLf + profile.sDescro);
 }
 
 void frmPersonnage::setGrade(bool sworn) {

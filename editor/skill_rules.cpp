@@ -2,15 +2,19 @@
 
 #include <algorithm>
 
+#include "editor/pools.h"
+
 namespace orvane {
 
+bool isNamedByUser(double key) { return std::count(namedKeys.begin(), namedKeys.end(), key) != 0; }
+
 LevelLimits levelLimits(const clsSkill& skill, bool ofProfile) {
-  if (!ofProfile) return {static_cast<double>(skill.iStart), 4};
-  if (skill.iKey == martialSkillKey) return {martialSkillLevel, 99};
-  return {profileSkillLevel, 8};
+  if (!ofProfile) return {static_cast<double>(skill.iStart), highestLevel};
+  if (skill.iKey == martialSkillKey) return {martialSkillLevel, highestMartialSkillLevel};
+  return {profileSkillLevel, highestProfileSkillLevel};
 }
 
-double profileSkillCost(std::int16_t iStart) { return iStart < 1 ? 1.0 - iStart : 0.0; }
+double profileSkillCost(std::int16_t iStart) { return iStart < profileSkillLevel ? profileSkillLevel - iStart : 0.0; }
 
 int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::int16_t iKey) {
   int count = 0;
@@ -18,7 +22,5 @@ int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::in
     count += static_cast<int>(std::count(profile->colSkillPro.begin(), profile->colSkillPro.end(), iKey));
   return count;
 }
-
-bool isNamedByUser(double key) { return std::count(namedKeys.begin(), namedKeys.end(), key) != 0; }
 
 }  // namespace orvane

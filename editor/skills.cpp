@@ -14,15 +14,32 @@ double key(const ListItem& row) { return number(row, SkillRow::Key); }
 
 }  // namespace
 
-const clsSkill* frmPersonnage::skillOf(const ListItem& row) const {
-  for (const auto& skill : data_.colSkill)
-    if (skill->iKey == key(row)) return skill.get();
-  return nullptr;
+void frmPersonnage::wireCompetences() {
+  using F = frmPersonnage;
+  on(lvwSkillGen.ItemClick, &F::lvwSkillGen_ItemClick);
+  on(lvwSkillGen.BeforeLabelEdit, &F::lvwSkillGen_BeforeLabelEdit);
+  on(lvwSkillGen.AfterLabelEdit, &F::lvwSkillGen_AfterLabelEdit);
+  on(cmdSkillGenModif, &CommandButton::Click, &F::cmdSkillGenModif_Click);
+}
+
+// Only the columns: the rows and the pool come with the profile.
+void frmPersonnage::loadCompetences() {
+  lvwSkillGen.clearColumnHeaders();
+  lvwSkillGen.addColumnHeader(lvwSkillGen.Width() - 450 - 300 - 450);
+  lvwSkillGen.addColumnHeader(450, true);
+  lvwSkillGen.addColumnHeader(0);
+  lvwSkillGen.addColumnHeader(450, true);
 }
 
 void frmPersonnage::enterCompetences() {
   if (!itmSkillSel) return;
   if (const auto* skill = skillOf(*itmSkillSel)) txtAllDescro.setText(skill->sDescro);
+}
+
+const clsSkill* frmPersonnage::skillOf(const ListItem& row) const {
+  for (const auto& skill : data_.colSkill)
+    if (skill->iKey == key(row)) return skill.get();
+  return nullptr;
 }
 
 void frmPersonnage::lvwSkillGen_ItemClick(ListItemRef Item) {

@@ -48,7 +48,7 @@ void frmPersonnage::checkFields(Verdict& verdict) {
   repairAge();
   verdict.mark(cmbDistrict, cmbDistrict.Text().empty(), accessory, typed);
   verdict.mark(txtLangRest, isUnspent(txtLangRest), accessory, pool);
-  verdict.mark(txtOtherLang, otherLanguageLacksItsName(), essential, typed);
+  verdict.mark(txtOtherLang, number(txtLang(2)) > 0 && otherLanguage().empty(), essential, typed);
   verdict.mark(txtCaractRest, isUnspent(txtCaractRest), accessory, pool);
   verdict.mark(txtContactRest, isUnspent(txtContactRest), accessory, pool);
   verdict.mark(txtSkillRest, isUnspent(txtSkillRest), accessory, pool);
@@ -58,10 +58,6 @@ void frmPersonnage::checkFields(Verdict& verdict) {
 void frmPersonnage::repairAge() {
   if (number(txtAge) < youngest) setNumber(txtAge, youngest);
   if (number(txtAge) > oldest) setNumber(txtAge, oldest);
-}
-
-bool frmPersonnage::otherLanguageLacksItsName() const {
-  return number(txtLang(2)) > 0 && (txtOtherLang.Text() == "Autre" || isEmpty(txtOtherLang));
 }
 
 void frmPersonnage::checkSkillNames(Verdict& verdict) {

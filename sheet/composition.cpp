@@ -2,7 +2,9 @@
 
 #include <memory>
 
+#include "editor/frmPersonnage.h"
 #include "sheet/composition_sides.h"
+#include "sheet/frmFeuille.h"
 #include "surface/desktop.h"
 
 namespace orvane {
@@ -35,7 +37,7 @@ void composeSheet(Globals& globals, frmPersonnage& perso) {
   const auto sheet = openSheet(globals, sCharName);
   setFontSizes(*sheet, workingSize);
   for (auto* picture : {&sheet->pctRecto, &sheet->pctVerso}) picture->setFontName(sheetFontName);
-  composeRecto(*sheet, perso, globals.data);
+  composeRecto(*sheet, perso);
   composeVerso(*sheet, perso);
 }
 

@@ -1,24 +1,19 @@
+#include "editor/frmPersonnage.h"
 #include "sheet/composition_sides.h"
+#include "sheet/frmFeuille.h"
 #include "sheet/line_marker.h"
-#include "sheet/mutation_state.h"
 #include "sheet/prcPrintInShape.h"
 #include "surface/text.h"
 
 namespace orvane {
 namespace {
 
-constexpr std::string_view unnamedLanguage = "Autre";
 constexpr std::size_t longestLargeDescription = 260;  // characters
 
 std::string sizeAndWeight(const frmPersonnage& perso) {
   const auto& size = perso.txtTaille.Text();
   const auto& weight = perso.txtPoids.Text();
   return size.empty() && weight.empty() ? std::string() : size + " / " + weight;
-}
-
-std::string otherLanguage(const frmPersonnage& perso) {
-  const auto& name = perso.txtOtherLang.Text();
-  return name == unnamedLanguage ? std::string() : name;
 }
 
 void printIdentity(frmFeuille& s, const frmPersonnage& p) {
@@ -35,7 +30,7 @@ void printIdentity(frmFeuille& s, const frmPersonnage& p) {
   print(p.cmbProfil.Text(), s.shpProfil);
   print(p.cmbGrade.Text(), s.shpGrade);
   for (int i = 0; i < s.shpLangValue.size(); ++i) print(p.txtLang(i).Text(), s.shpLangValue(i));
-  print(otherLanguage(p), s.shpOtherLang);
+  print(p.otherLanguage(), s.shpOtherLang);
   for (int i = 0; i < s.shpCaract.size(); ++i) print(p.txtCaract(i).Text(), s.shpCaract(i));
   print(p.txtEV.Text(), s.shpEV);
   print(p.txtR.Text(), s.shpR);
@@ -63,11 +58,11 @@ struct MutationTexts {
 };
 
 // A drawn power stays secret until the sheet is saved.
-MutationTexts mutationTexts(const frmPersonnage& perso, const ReferenceData& data) {
-  const auto state = mutationState(perso);
-  if (state == MutationState::NoPower) return {"", "Aucune mutation", ""};
-  const clsMutation* power = selectedPower(perso, data);
-  if (state == MutationState::DrawnPower || !power) return {};
+MutationTexts mutationTexts(const frmPersonnage& perso) {
+  using State = frmPersonnage::MutationState;
+  if (perso.mutationState() == State::NoPower) return {"", "Aucune mutation", ""};
+  const clsMutation* power = perso.selectedPower();
+  if (perso.mutationState() == State::DrawnPower || !power) return {};
   return {perso.cmbMutaCateg.Text() + ' ' + perso.cmbMutaSign.Text() + ' ' + std::to_string(power->iNum), power->sName,
           power->sDescro};
 }
@@ -82,10 +77,10 @@ void printMutation(frmFeuille& sheet, MutationTexts texts) {
 
 }  // namespace
 
-void composeRecto(frmFeuille& sheet, const frmPersonnage& perso, const ReferenceData& data) {
+void composeRecto(frmFeuille& sheet, const frmPersonnage& perso) {
   printIdentity(sheet, perso);
   printContacts(sheet, perso);
-  printMutation(sheet, mutationTexts(perso, data));
+  printMutation(sheet, mutationTexts(perso));
   prcPrintInShape(std::string(perso.txtParticulSign.Text()), sheet.pctRecto, sheet.shpParticulSign);
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "data/reference_data.h"
-#include "editor/frmPersonnage.h"
-#include "sheet/frmFeuille.h"
-
 namespace orvane {
+
+class frmFeuille;
+class frmPersonnage;
 
 // Sizes of the sheet's font, points.
 inline constexpr float workingSize = 10;
@@ -13,7 +12,7 @@ inline constexpr float equipmentSize = 9;
 
 void setFontSizes(frmFeuille& sheet, float points);
 
-void composeRecto(frmFeuille& sheet, const frmPersonnage& perso, const ReferenceData& data);
+void composeRecto(frmFeuille& sheet, const frmPersonnage& perso);
 // Leaves the font of both pictures at the size of the equipment text, if that was printed.
 void composeVerso(frmFeuille& sheet, const frmPersonnage& perso);
 

@@ -1,6 +1,5 @@
 #include "editor/frmPersonnage.h"
 #include "sheet/frmFeuille.h"
-#include "sheet/mutation_state.h"
 #include "sheet/prcPrintInShape.h"
 #include "sheet/sheet_files.h"
 #include "surface/desktop.h"
@@ -61,8 +60,8 @@ bool frmFeuille::mayOverwrite() {
 
 void frmFeuille::printDrawnPower() {
   const auto* frmPerso = characterOf(*this);
-  if (drawnPowerPrinted_ || !frmPerso || mutationState(*frmPerso) != MutationState::DrawnPower) return;
-  const auto* power = selectedPower(*frmPerso, globals_.data);
+  if (drawnPowerPrinted_ || !frmPerso || frmPerso->mutationState() != frmPersonnage::MutationState::DrawnPower) return;
+  const auto* power = frmPerso->selectedPower();
   if (!power) return;
   drawnPowerPrinted_ = true;
   const auto print = [this](std::string text, Shape& box) { prcPrintInShape(std::move(text), pctRecto, box); };

@@ -30,7 +30,7 @@ constexpr std::array<PlacementKey, 4> placementKeys = {{{"MainLeft", &frmMain::P
 
 bool hasUsableProfile(const ReferenceData& data) {
   return std::any_of(data.colProfil.begin(), data.colProfil.end(),
-                     [](const auto& profile) { return profile->sName != "Assermenté"; });
+                     [](const auto& profile) { return profile->canBeChosen(); });
 }
 
 }  // namespace

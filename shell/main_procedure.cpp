@@ -30,7 +30,7 @@ Run::Run(const World& world) : globals_(desktop_, data_), desktop_(world) {
 }
 
 void Run::Main() {
-  globals_.iContactCost = {0, 1, 2, 3};
+  globals_.iContactCost = contactPrices;
   const auto splash = std::make_shared<frmSplash>(desktop_);
   splash->Load();
   const float start = desktop_.world().clock.Timer();

@@ -13,7 +13,7 @@ class ComboBox : public EntryList {
 
   ComboBox(Place place, std::string name, Design design = byDefault<Design>());
 
-  void AddItem(std::string text) { insert(ListCount(), std::move(text)); }
+  void AddItem(std::string text, std::int32_t itemData = 0) { insert(ListCount(), {std::move(text), itemData}); }
   // Silent: ListIndex becomes -1, the text empty.
   void Clear();
   void setListIndex(int index) override;

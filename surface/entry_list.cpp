@@ -2,8 +2,8 @@
 
 namespace orvane {
 
-void EntryList::insert(int index, std::string text) {
-  items_.insert(items_.begin() + index, {std::move(text), 0});
+void EntryList::insert(int index, Item item) {
+  items_.insert(items_.begin() + index, std::move(item));
   newIndex_ = index;
   if (listIndex_ >= index) ++listIndex_;
   changed();

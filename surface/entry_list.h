@@ -16,16 +16,17 @@ class EntryList : public Control {
   using Control::Control;
 
   int ListCount() const { return static_cast<int>(items_.size()); }
-  // The three fail with an index outside the list.
+  // Both fail with an index outside the list.
   const std::string& List(int index) const { return items_[checked(index)].text; }
   std::int32_t ItemData(int index) const { return items_[checked(index)].itemData; }
-  void setItemData(int index, std::int32_t data) { items_[checked(index)].itemData = data; }
   // The entry added last, -1 before the first.
   int NewIndex() const { return newIndex_; }
 
   // -1 for none. The write fails outside the list.
   int ListIndex() const { return listIndex_; }
   virtual void setListIndex(int index);
+  // Of the selected entry; fails when there is none.
+  std::int32_t selectedData() const { return ItemData(listIndex_); }
 
   Event<> Click{*this};
 
@@ -35,7 +36,7 @@ class EntryList : public Control {
  protected:
   std::size_t checked(int index) const { return offsetOf(index, 0, ListCount(), "d'entrée", Name()); }
   // The selected entry stays selected.
-  void insert(int index, std::string text);
+  void insert(int index, Item item);
 
   std::vector<Item> items_;
   int listIndex_ = -1;

@@ -9,7 +9,7 @@ namespace orvane {
 void ListBox::AddItem(std::string text) {
   const std::string key = sortKey(text);
   const auto place = std::find_if(items_.begin(), items_.end(), [&](auto& item) { return sortKey(item.text) > key; });
-  insert(static_cast<int>(place - items_.begin()), std::move(text));
+  insert(static_cast<int>(place - items_.begin()), {std::move(text)});
 }
 
 void ListBox::RemoveItem(int index) {

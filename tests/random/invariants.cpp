@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <charconv>
+#include <numeric>
 #include <set>
 
 #include "editor/art_row.h"
 #include "editor/martial_restrict.h"
+#include "editor/pools.h"
 #include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 
@@ -48,13 +50,13 @@ class Check {
     int negatives = 0;
     for (int i = 0; i < 8; ++i) {
       const int value = whole(perso_.txtCaract(i));
-      require(value >= -2 && value <= 3, "a characteristic lies between -2 and 3");
+      require(value >= lowestCaract && value <= highestCaract, "a characteristic lies inside its limits");
       negatives += value < 0;
       sum += value;
     }
-    require(sum == 10, "characteristics and their pool add up to 10");
+    require(sum == caractPool, "characteristics and what is left add up to their pool");
     require(whole(perso_.txtCaractRest) >= 0, "the pool of characteristics is not negative");
-    require(negatives <= 2, "at most two characteristics are negative");
+    require(negatives <= negativeCaractsAllowed, "no more characteristics are negative than may be");
     const auto value = [this](int i) { return whole(perso_.txtCaract(i)); };
     require(whole(perso_.txtEV) == value(0) + value(4), "EV follows its characteristics");
     require(whole(perso_.txtR) == value(1) + value(5), "R follows its characteristics");
@@ -66,14 +68,16 @@ class Check {
     require(sum >= 0, "the pool of languages is not negative");
     for (int i = 0; i < 3; ++i) {
       const int degree = whole(perso_.txtLang(i));
-      require(degree >= 0 && degree <= 5, "a degree lies between 0 and 5");
+      require(degree >= 0 && degree <= highestDegree, "a degree lies inside its limits");
       sum += degree;
     }
-    require(sum == 9, "languages and their pool add up to 9");
+    require(sum == languagePool, "languages and what is left add up to their pool");
   }
 
   void contacts() {
-    constexpr int paid[] = {0, 1, 3, 6};
+    const auto paid = [](int value) {
+      return std::accumulate(contactPrices.begin(), contactPrices.begin() + value + 1, 0);
+    };
     std::set<std::string> names;
     int sum = whole(perso_.txtContactRest);
     for (std::int32_t i = 1; i <= perso_.colContact.Count(); ++i) {
@@ -83,10 +87,11 @@ class Check {
       const bool selected = i == perso_.iContactSel && perso_.lstContact.ListIndex() != -1;
       const int info = selected ? whole(perso_.txtContact(0)) : contact.iInfo;
       const int react = selected ? whole(perso_.txtContact(1)) : contact.iReact;
-      if (info < 0 || info > 3 || react < 0 || react > 3) return require(false, "a contact value lies between 0 and 3");
-      sum += paid[info] + paid[react];
+      if (std::min(info, react) < 0 || std::max(info, react) > highestContactValue)
+        return require(false, "a contact value lies inside its limits");
+      sum += paid(info) + paid(react);
     }
-    require(sum == 14, "contacts and their pool add up to 14");
+    require(sum == contactPool, "contacts and what is left add up to their pool");
     require(whole(perso_.txtContactRest) >= 0, "the pool of contacts is not negative");
     require(perso_.colContact.Count() == perso_.lstContact.ListCount(), "each contact stands in the list");
     require(static_cast<int>(names.size()) == perso_.colContact.Count(), "no two contacts share a name");
@@ -101,16 +106,17 @@ class Check {
 
   // The pool, worked out anew from the state of the character.
   void skills() {
-    int pool = 80 + (perso_.chkMuta.Value() == 0 ? 20 : 0) + (perso_.chkMuta.Enabled() ? 0 : 5);
+    double pool = skillPoolBase;
+    if (perso_.chkMuta.Value() == 0) pool += pointsWithoutPower;
+    if (!perso_.chkMuta.Enabled()) pool += pointsForDraw;
     for (const auto& row : perso_.lvwSkillGen.rows()) {
       const auto* skill = skillOf(*row);
       if (!skill) return require(false, "each row of the skill list has a skill");
-      const bool martial = skill->iKey == 58;
-      if (row->Bold()) pool -= std::max(0, 1 - skill->iStart) + (martial ? 9 : 0);
+      const bool martial = skill->iKey == martialSkillKey;
+      if (row->Bold()) pool -= profileSkillCost(skill->iStart) + (martial ? martialSkillExtraCost : 0);
       pool -= level(*row) - levelAtApplication(*row);
-      const int lowest = !row->Bold() ? skill->iStart : martial ? 10 : 1;
-      const int highest = !row->Bold() ? std::max<int>(4, skill->iStart) : martial ? 99 : 8;
-      require(level(*row) >= lowest && level(*row) <= highest, "a level stays inside its limits");
+      const auto [lowest, highest] = levelLimits(*skill, row->Bold());
+      require(level(*row) >= lowest && level(*row) <= std::max(lowest, highest), "a level stays inside its limits");
       if (martial) martialLevel_ = level(*row);
     }
     require(whole(perso_.txtSkillRest) == pool, "the skill pool is what the state of the character says");

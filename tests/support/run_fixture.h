@@ -16,7 +16,7 @@ namespace orvane::test {
 // A run without a screen on the small game, and a user in front of it.
 class RunFixture : public ::testing::Test {
  protected:
-  RunFixture() { globals.iContactCost = {0, 1, 2, 3}; }
+  RunFixture() { globals.iContactCost = contactPrices; }
 
   // Opens a character window as the menu does; null when it closed itself.
   frmPersonnage* open() {
