@@ -12,7 +12,7 @@ namespace orvane {
 // The lines of one data file. They end in LF or CR LF; a last line without a line end counts.
 class DataFile {
  public:
-  // Skips the title line. That there is none, in an empty file, is a fault.
+  // Skips the title line. That there is none, in an empty file or in one line of CR or NUL bytes, is a fault.
   DataFile(Reading& reading, std::string_view name, std::string bytes);
   DataFile(const DataFile&) = delete;
   DataFile& operator=(const DataFile&) = delete;

@@ -1,6 +1,7 @@
 #include "data/reading.h"
 
 #include "data/excerpt.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
@@ -42,12 +43,14 @@ std::string describe(const Fault& fault) {
       return std::string(fault.text);
     case FaultKind::EmptyFile:
       return place + "fichier vide : attendu une ligne de titre.";
+    case FaultKind::NoLineEnd:
+      return place + "trouvé " + excerpt(fault.text) + ", attendu des lignes qui se terminent par LF ou CR LF.";
     case FaultKind::NoAssermente:
       return "Erreur: pas de profil \"Assermenté\" chargé.";
     case FaultKind::AssermenteOutOfReach:
       return place + "le profil \"Assermenté\" vient au-delà du 32767e profil.";
     case FaultKind::UnknownTechnic:
-      return "Il existe une technique martiale inconnue dans " + std::string(fault.text);
+      return "Il existe une technique martiale inconnue dans " + shortened(fault.text);
     default:
       return place + "champ " + std::to_string(position) + " (" + std::string(field.member) + ", " +
              std::string(field.meaning) + ") : trouvé " + found(fault) + ", attendu " + expected(fault) + ".";

@@ -27,6 +27,7 @@ enum class FaultKind {
   MissingFile,
   UnreadableFile,
   EmptyFile,
+  NoLineEnd,
   NoAssermente,
   AssermenteOutOfReach,
   UnknownTechnic,
@@ -43,7 +44,7 @@ struct Fault {
   FaultKind kind;
   FieldText at;                // the file alone, the line alone, or the field
   std::int32_t column = 1;     // where in the line, characters from 1
-  std::string_view text = {};  // the art that names an unknown technique; why a file cannot be read
+  std::string_view text = {};  // the art that names an unknown technique; why a file cannot be read; its bytes
 };
 
 // A fault in a sentence for the player.

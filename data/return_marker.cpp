@@ -21,7 +21,7 @@ std::string prcReturnToCrLf(std::string_view sText, Dialogs& dialogs) {
     }
     return result.append(sText);
   } catch (const std::bad_alloc&) {
-    dialogs.MsgBox("Erreur durant la lecture du texte " + std::string(sText), BoxStyle::Critical, App::Title);
+    dialogs.MsgBox("Erreur durant la lecture du texte " + shortened(sText), BoxStyle::Critical, App::Title);
     return {};
   }
 }

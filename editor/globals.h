@@ -30,6 +30,8 @@ struct Globals {
   // What the editor reaches in the layers above it; they fill these in.
   std::function<void(frmPersonnage&)> composeSheet;
   std::function<void()> showReadMe;
+  // Told that the files of a sheet could not be saved.
+  std::function<void()> sheetNotSaved;
 };
 
 }  // namespace orvane

@@ -1,10 +1,11 @@
 #include "player/play_scripts.h"
 
 #include <array>
-#include <iterator>
 
 #include "player/script_parser.h"
 #include "surface/failure.h"
+#include "surface/system_reason.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
@@ -12,6 +13,8 @@ namespace {
 constexpr int done = 0;
 constexpr int notAllDone = 1;
 constexpr int notPlayed = 2;
+constexpr int notSaved = 3;
+constexpr std::size_t longestMessage = 10000;  // characters
 
 const std::string standardInput = "-";
 
@@ -36,9 +39,12 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
 
 std::string readAll(std::istream& in) {
   std::string text;
-  for (std::array<char, 4096> part{}; in; text.append(part.data(), static_cast<std::size_t>(in.gcount())))
+  for (std::array<char, 4096> part{}; in && text.size() <= largestFile;
+       text.append(part.data(), static_cast<std::size_t>(in.gcount())))
     in.read(part.data(), part.size());
   if (in.bad()) throw ScriptError{standardInput + ": Lecture impossible."};
+  if (text.size() > largestFile)
+    throw ScriptError{standardInput + ": Lecture impossible (" + std::string(tooLargeFile) + ")."};
   return text;
 }
 
@@ -51,10 +57,13 @@ std::string readScript(const std::string& file, std::istream& in, Files& files) 
   }
 }
 
-int play(const CommandLine& line, std::istream& in, std::ostream& out, PlayerParts parts) {
+int play(const CommandLine& line, std::istream& in, std::ostream& out, std::ostream& err, PlayerParts parts) {
   std::vector<Script> scripts;
   for (const auto& file : line.files) scripts.push_back(parseScript(file, readScript(file, in, parts.files)));
-  return ScriptPlayer(out, parts, line.keepGoing).play(scripts) ? done : notAllDone;
+  ScriptPlayer player(out, err, parts, line.keepGoing);
+  const bool allDone = player.play(scripts);
+  if (player.hasUnsavedSheets()) return notSaved;
+  return allDone ? done : notAllDone;
 }
 
 }  // namespace
@@ -62,13 +71,16 @@ int play(const CommandLine& line, std::istream& in, std::ostream& out, PlayerPar
 int playScripts(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err,
                 PlayerParts parts) {
   try {
-    const int status = play(parseCommandLine(arguments), in, out, parts);
+    const int status = play(parseCommandLine(arguments), in, out, err, parts);
     if (out) return status;
     err << "orvane-batch: la transcription n'a pas pu être écrite\n";
-    return notAllDone;
+    return status == notSaved ? notSaved : notAllDone;
   } catch (const ScriptError& error) {
-    err << error.message << '\n';
+    err << shortened(error.message, longestMessage) << '\n';
     return notPlayed;
+  } catch (const std::exception& error) {
+    err << "orvane-batch: " << sentenceOn(error) << '\n';
+    return notAllDone;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <ostream>
 #include <string_view>
 #include <vector>
 
@@ -19,10 +20,11 @@ std::optional<Answer> buttonNamed(std::string_view name);
 // In their order on the box.
 std::vector<Answer> buttonsOf(BoxStyle style);
 
-// Answers message boxes with what was laid down, else with their first button, and writes them down.
+// Answers message boxes with what was laid down, else with their first button, and writes them down. Notices are no
+// part of the transcript.
 class PlayerDialogs : public Dialogs {
  public:
-  explicit PlayerDialogs(Transcript& transcript) : transcript_(transcript) {}
+  PlayerDialogs(Transcript& transcript, std::ostream& notices) : transcript_(transcript), notices_(notices) {}
 
   // Plays on until the form is unloaded.
   std::function<void(Form&)> playModal;
@@ -34,11 +36,13 @@ class PlayerDialogs : public Dialogs {
   Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string& title) override;
   void runModal(Form& form) override { playModal(form); }
   void failure(const std::string& description) override { transcript_.failure(description); }
+  void notice(const std::string& text) override { notices_ << "orvane-batch: " << text << std::endl; }
 
  private:
   Answer nextAnswer(BoxStyle style, const std::string& title);
 
   Transcript& transcript_;
+  std::ostream& notices_;
   std::deque<Answer> answers_;
 };
 

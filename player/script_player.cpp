@@ -5,15 +5,16 @@
 
 namespace orvane {
 
-ScriptPlayer::ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing)
+ScriptPlayer::ScriptPlayer(std::ostream& out, std::ostream& err, PlayerParts parts, bool keepGoing)
     : transcript_(out),
-      dialogs_(transcript_),
+      dialogs_(transcript_, err),
       clock_(parts.timeOfDay),
       run_({parts.door ? parts.door->dialogs(dialogs_) : dialogs_, clock_, settings_, parts.files, parts.pictures}),
       user_(parts.door ? parts.door->user(run_) : std::make_unique<User>(run_.desktop())),
       stage_{run_.desktop(), *user_, transcript_, dialogs_, clock_},
       keepGoing_(keepGoing) {
   dialogs_.playModal = [this](Form& form) { playModal(form); };
+  run_.globals().sheetNotSaved = [this] { unsavedSheets_ = true; };
 }
 
 bool ScriptPlayer::play(const std::vector<Script>& scripts) {

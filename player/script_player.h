@@ -33,11 +33,14 @@ struct PlayerParts {
 // One run of the system that scripts are played in, one after another.
 class ScriptPlayer {
  public:
-  ScriptPlayer(std::ostream& out, PlayerParts parts, bool keepGoing);
+  // Notices go to err.
+  ScriptPlayer(std::ostream& out, std::ostream& err, PlayerParts parts, bool keepGoing);
 
   // Starts the system, plays, and closes it. False when an act was refused, an expectation failed or a failure reached
   // no handler. Once only.
   bool play(const std::vector<Script>& scripts);
+  // The files of some sheet could not be saved.
+  bool hasUnsavedSheets() const { return unsavedSheets_; }
 
  private:
   void playScript(const Script& script);
@@ -55,6 +58,7 @@ class ScriptPlayer {
   std::unique_ptr<User> user_;
   Stage stage_;
   bool keepGoing_;
+  bool unsavedSheets_ = false;
   const Script* script_ = nullptr;
   std::size_t next_ = 0;
 };

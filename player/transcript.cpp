@@ -1,9 +1,12 @@
 #include "player/transcript.h"
 
 #include "surface/property.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
+
+constexpr std::size_t longestFault = 10000;  // characters
 
 // Reasons may hold texts that users typed.
 std::string onOneLine(const std::string& text) {
@@ -28,7 +31,7 @@ void Transcript::line(const std::string& text) { out_ << text << '\n' << std::fl
 
 void Transcript::fault(const std::string& kind, const std::string& text) {
   ++faults_;
-  line(kind + " " + onOneLine(file_) + ":" + std::to_string(line_) + ": " + onOneLine(text));
+  line(kind + " " + onOneLine(file_) + ":" + std::to_string(line_) + ": " + onOneLine(shortened(text, longestFault)));
 }
 
 void Transcript::refused(const std::string& reason) {

@@ -94,4 +94,6 @@ void ScreenDialogs::runModal(Form& form) {
 
 void ScreenDialogs::failure(const std::string& description) { MsgBox(description, BoxStyle::Critical, App::Title); }
 
+void ScreenDialogs::notice(const std::string& text) { MsgBox(text, BoxStyle::Exclamation, App::Title); }
+
 }  // namespace orvane

@@ -16,6 +16,8 @@ class ScreenDialogs final : public Dialogs {
   void runModal(Form& form) override;
   // A critical box.
   void failure(const std::string& description) override;
+  // A box with an exclamation mark.
+  void notice(const std::string& text) override;
 
  private:
   Windows* windows_ = nullptr;

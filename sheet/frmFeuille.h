@@ -12,6 +12,8 @@
 
 namespace orvane {
 
+class SheetFiles;
+
 // The window of one character's sheet: two pictures that texts were printed on, of which one is shown.
 class frmFeuille : public Form {
  public:
@@ -89,6 +91,9 @@ class frmFeuille : public Form {
 
   // The steps of the save.
   bool confirmed();
+  // False where that failed, which is told, or the user keeps the files of before.
+  bool triesToSave(SheetFiles& files);
+  bool saveFiles(SheetFiles& files);
   bool mayOverwrite();
   void printDrawnPower();
 

@@ -2,8 +2,9 @@
 #include "sheet/frmFeuille.h"
 #include "sheet/prcPrintInShape.h"
 #include "sheet/sheet_files.h"
+#include "sheet/sheet_names.h"
 #include "surface/desktop.h"
-#include "surface/failure.h"
+#include "surface/system_reason.h"
 #include "surface/text.h"
 
 namespace orvane {
@@ -30,18 +31,39 @@ void frmFeuille::cmdSave_Click(std::int16_t) {
   if (const auto fault = faultOfFileName(Caption()))
     return tellFault(desktop(), "Son nom ne peut pas nommer de fichier : " + *fault + ".");
   if (!confirmed()) return;
-  try {
-    SheetFiles files(desktop().world().files, Caption());
-    files.makeFolder();
-    if (files.frontExists() && !mayOverwrite()) return;
-    printDrawnPower();
-    files.save(pctRecto.Image().bitmap(), pctVerso.Image().bitmap());
-  } catch (const Failure& failure) {
-    return tellFault(desktop(), failure.what());
-  }
-  desktop().MsgBox(Caption() + " sauvé(e) dans ./Perso/" + Caption() + "_x.bmp.", BoxStyle::Information);
+  SheetFiles files(desktop().world().files, Caption());
+  const bool isSaved = triesToSave(files);
+  for (const auto& remark : files.remarks()) desktop().world().dialogs.notice(remark);
+  if (!isSaved) return;
   if (auto* frmPerso = characterOf(*this)) frmPerso->Unload();
   Unload();
+}
+
+bool frmFeuille::triesToSave(SheetFiles& files) {
+  try {
+    if (!saveFiles(files)) return false;
+  } catch (const std::exception& failure) {
+    if (globals_.sheetNotSaved) globals_.sheetNotSaved();
+    tellFault(desktop(), sentenceOn(failure));
+    return false;
+  }
+  desktop().MsgBox(Caption() + " sauvé(e) dans ./Perso/" + Caption() + "_x.bmp.", BoxStyle::Information);
+  return true;
+}
+
+bool frmFeuille::saveFiles(SheetFiles& files) {
+  files.makeFolder();
+  for (bool mayReplace = false;; mayReplace = true) {
+    auto turn = files.takeTurn(desktop().world().dialogs);
+    if (mayReplace || !files.frontExists()) {
+      printDrawnPower();
+      files.save({pctRecto.Image().bitmap(), pctVerso.Image().bitmap()});
+      return true;
+    }
+    // No other program waits for the answer.
+    turn.reset();
+    if (!mayOverwrite()) return false;
+  }
 }
 
 bool frmFeuille::confirmed() {

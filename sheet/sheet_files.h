@@ -1,46 +1,38 @@
 #pragma once
 
 #include <array>
-#include <optional>
+#include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "surface/world.h"
 
 namespace orvane {
 
-// Why a character's name cannot name its files, a French clause without a full stop; none when it can.
-std::optional<std::string> faultOfFileName(const std::string& name);
-
-// The two bitmap files of one character in ./Perso.
+// The two bitmap files of one character.
 class SheetFiles {
  public:
-  SheetFiles(Files& files, const std::string& name);
+  SheetFiles(Files& files, std::string name) : files_(files), name_(std::move(name)) {}
 
-  bool frontExists() const { return files_.fileExists(sides_[0].goal); }
+  bool frontExists() const;
+  // What follows fails with the reason.
   void makeFolder();
-  // Both or none: a pair of before is replaced as a whole or stays as it was. Fails with the reason.
-  void save(const std::string& front, const std::string& back);
+  // Waits a moment for other programs that save, and fails where one goes on; it says who is being saved. Brings to an
+  // end what dead programs have left, and tells of it.
+  std::unique_ptr<FolderLock> takeTurn(Dialogs& dialogs);
+  // Front and back, both or none: a pair of before is replaced as a whole or stays as it was. Only in one's turn.
+  void save(const std::array<std::string, 2>& bitmaps);
+
+  // French sentences on what lies in ./Perso that should not.
+  const std::vector<std::string>& remarks() const { return remarks_; }
 
  private:
-  struct Side {
-    std::string goal;
-    std::string fresh;   // written beside the goal
-    std::string former;  // a copy of what the goal held, once it is being made
-    bool hadFormer = false;
-    bool attempted = false;  // its replacement, whether it succeeded or not
-  };
-
-  void writeBeside(const Side& side, const std::string& bytes);
-  std::string freeNameBeside(const std::string& goal) const;
-  void keepFormer(Side& side);
-  void putInPlace(Side& side);
-  // Gives a sentence for each side that could not be put back as it was: what stays, and where.
-  std::string undo();
-  std::string putBack(Side& side);
-  void removeTraces();
+  std::string whoIsSaved() const;
 
   Files& files_;
-  std::array<Side, 2> sides_;
+  std::string name_;
+  std::vector<std::string> remarks_;
 };
 
 }  // namespace orvane

@@ -4,6 +4,7 @@
 
 #include "data/load_data.h"
 #include "sheet/composition.h"
+#include "sheet/recovery.h"
 #include "shell/FrmReadMe.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -43,6 +44,7 @@ void Run::Main() {
   waitUntilSecondsAfter(start, splashSeconds);
   splash->Unload();
   main->Show();
+  recoverSavesAtStart(desktop_.world().files, desktop_.world().dialogs);
 }
 
 void Run::waitUntilSecondsAfter(float start, double seconds) {

@@ -15,8 +15,8 @@ class Run {
   Run(const Run&) = delete;
   Run& operator=(const Run&) = delete;
 
-  // The start: splash, reference data, main window. Ends with the main window shown, no sooner than one second after
-  // the splash came up; all else happens in event handlers.
+  // The start: splash, reference data, main window, and what a program that died has left of a save. Ends with the main
+  // window shown, no sooner than one second after the splash came up; all else happens in event handlers.
   void Main();
 
   Desktop& desktop() { return desktop_; }

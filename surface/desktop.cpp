@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <exception>
 
-#include "surface/failure.h"
+#include "surface/system_reason.h"
 
 namespace orvane {
 
@@ -148,10 +148,8 @@ void Desktop::perform(const std::function<void()>& act) {
   const Scope scope(*this);
   try {
     act();
-  } catch (const Failure& failure) {
-    world_.dialogs.failure(failure.what());
   } catch (const std::exception& error) {
-    world_.dialogs.failure(std::string("Erreur interne : ") + error.what());
+    world_.dialogs.failure(sentenceOn(error));
   }
 }
 

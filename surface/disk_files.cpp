@@ -1,91 +1,90 @@
 #include "surface/disk_files.h"
 
-#include <array>
-#include <cerrno>
+#include <algorithm>
+#include <chrono>
+#include <csignal>
 #include <cstdio>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <thread>
 
 #include "surface/failure.h"
+#include "surface/open_file.h"
 #include "surface/system_reason.h"
 
 namespace orvane {
 namespace {
 
+using Time = std::chrono::steady_clock;
+
+[[noreturn]] void fail(const std::string& what, const std::string& path, const std::string& reason) {
+  throw Failure(what + " : " + path + " (" + reason + ").");
+}
+
 [[noreturn]] void fail(const std::string& what, const std::string& path, int error = errno) {
-  throw Failure(what + " : " + path + " (" + systemReason(error) + ").");
+  fail(what, path, systemReason(error));
 }
 
-class OpenFile {
- public:
-  OpenFile(const std::string& path, int flags) : descriptor_(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {}
-  ~OpenFile() {
-    if (isOpen()) ::close(descriptor_);
-  }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
+using Look = int (*)(const char*, struct stat*);
 
-  bool isOpen() const { return descriptor_ >= 0; }
-
-  // Bytes read, 0 at the end, below 0 with errno.
-  template <std::size_t N>
-  ssize_t read(std::array<char, N>& buffer) {
-    ssize_t count;
-    do count = ::read(descriptor_, buffer.data(), N);
-    while (count < 0 && errno == EINTR);
-    return count;
-  }
-
-  bool writeAll(std::string_view bytes) {
-    while (!bytes.empty()) {
-      const ssize_t count = ::write(descriptor_, bytes.data(), bytes.size());
-      if (count < 0 && errno != EINTR) return false;
-      if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
-  }
-
-  bool flush() { return ::fsync(descriptor_) == 0; }
-
-  bool close() {
-    const int descriptor = descriptor_;
-    descriptor_ = -1;
-    return ::close(descriptor) == 0;
-  }
-
- private:
-  int descriptor_;
-};
-
-std::string directoryOf(const std::string& path) {
-  const auto slash = path.rfind('/');
-  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
-}
-
-// The change is made by now and cannot be half undone: a directory that will not be flushed is no failure.
-void flushDirectoryOf(const std::string& path) {
-  OpenFile directory(directoryOf(path), O_RDONLY | O_DIRECTORY);
-  if (directory.isOpen()) directory.flush();
+// False where there is nothing of that name, or no way to it.
+bool look(const std::string& path, struct stat& found, Look how) {
+  if (uninterrupted([&] { return how(path.c_str(), &found); }) == 0) return true;
+  for (const int absent : {ENOENT, ENOTDIR, ENAMETOOLONG, ELOOP, EACCES})
+    if (errno == absent) return false;
+  fail("Examen impossible", path);
 }
 
 bool isDirectory(const struct stat& found) { return S_ISDIR(found.st_mode); }
 
+void requireReadable(const OpenFile& file, const std::string& path) {
+  struct stat found {};
+  if (!file.stat(found)) fail("Lecture impossible", path);
+  if (isDirectory(found)) fail("Lecture impossible", path, EISDIR);
+  if (!S_ISREG(found.st_mode)) fail("Lecture impossible", path, "ce n'est pas un fichier ordinaire");
+  if (found.st_size > static_cast<off_t>(largestFile)) fail("Lecture impossible", path, std::string(tooLargeFile));
+}
+
+// Not where it is gone by now.
+bool isFolder(const std::filesystem::directory_entry& entry) {
+  struct stat found {};
+  return look(entry.path(), found, ::lstat) && isDirectory(found);
+}
+
+bool knowsNoLinks(int error) { return error == EPERM || error == EOPNOTSUPP || error == ENOSYS || error == EMLINK; }
+
+class DirectoryLock : public FolderLock {
+ public:
+  explicit DirectoryLock(const std::string& path) : directory_(path, O_RDONLY | O_DIRECTORY) {
+    if (!directory_.isOpen()) fail("Verrouillage impossible", path);
+  }
+
+  bool take() {
+    return uninterrupted([&] { return ::flock(directory_.descriptor(), LOCK_EX | LOCK_NB); }) == 0;
+  }
+
+ private:
+  OpenFile directory_;
+};
+
 }  // namespace
+
+DiskFiles::DiskFiles() { std::signal(SIGXFSZ, SIG_IGN); }
 
 bool DiskFiles::fileExists(const std::string& path) {
   struct stat found {};
-  return ::stat(path.c_str(), &found) == 0 && !isDirectory(found);
+  return look(path, found, ::stat) && !isDirectory(found);
 }
 
 bool DiskFiles::directoryExists(const std::string& path) {
   struct stat found {};
-  return ::stat(path.c_str(), &found) == 0 && isDirectory(found);
+  return look(path, found, ::stat) && isDirectory(found);
 }
 
 std::string DiskFiles::read(const std::string& path) {
   OpenFile file(path, O_RDONLY);
   if (!file.isOpen()) fail("Lecture impossible", path);
+  requireReadable(file, path);
   std::string bytes;
   std::array<char, 65536> buffer;
   while (true) {
@@ -93,15 +92,28 @@ std::string DiskFiles::read(const std::string& path) {
     if (count < 0) fail("Lecture impossible", path);
     if (count == 0) return bytes;
     bytes.append(buffer.data(), static_cast<std::size_t>(count));
+    if (bytes.size() > largestFile) fail("Lecture impossible", path, std::string(tooLargeFile));
   }
 }
 
-void DiskFiles::MkDir(const std::string& path) {
-  if (::mkdir(path.c_str(), 0777) != 0) fail("Création du dossier impossible", path);
+std::vector<FolderEntry> DiskFiles::list(const std::string& path) {
+  namespace fs = std::filesystem;
+  std::vector<FolderEntry> entries;
+  std::error_code error;
+  for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
+    entries.push_back({entry->path().filename(), isFolder(*entry)});
+  if (error) fail("Lecture impossible", path, error.value());
+  return entries;
+}
+
+bool DiskFiles::MkDir(const std::string& path) {
+  if (uninterrupted([&] { return ::mkdir(path.c_str(), S_IRWXU | S_IRWXG | S_IRWXO); }) == 0) return true;
+  if (errno != EEXIST) fail("Création du dossier impossible", path);
+  return false;
 }
 
 void DiskFiles::write(const std::string& path, std::string_view bytes) {
-  OpenFile file(path, O_WRONLY | O_CREAT | O_TRUNC);
+  OpenFile file(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file.isOpen()) fail("Écriture impossible", path);
   if (file.writeAll(bytes) && file.flush() && file.close()) return;
   const int error = errno;
@@ -109,13 +121,56 @@ void DiskFiles::write(const std::string& path, std::string_view bytes) {
   fail("Écriture impossible", path, error);
 }
 
+void DiskFiles::takeRights(const std::string& path, const std::string& of) {
+  struct stat model {};
+  if (!look(of, model, ::lstat) || !S_ISREG(model.st_mode)) return;
+  const OpenFile file(path, O_RDONLY | O_NOFOLLOW);
+  struct stat own {};
+  if (!file.isOpen() || !file.stat(own)) return;
+  // The group alone may be given where the owner may not. Giving either can take rights away, so these come last.
+  const auto give = [&](uid_t owner) { return ::fchown(file.descriptor(), owner, model.st_gid) == 0; };
+  const bool given =
+      (own.st_uid == model.st_uid && own.st_gid == model.st_gid) || give(model.st_uid) || give(own.st_uid);
+  const mode_t kept = given ? S_IRWXU | S_IRWXG | S_IRWXO : S_IRWXU | S_IRWXO;
+  static_cast<void>(::fchmod(file.descriptor(), model.st_mode & kept));
+}
+
+bool DiskFiles::keep(const std::string& path, const std::string& under) {
+  const auto link = [&] { return ::linkat(AT_FDCWD, path.c_str(), AT_FDCWD, under.c_str(), 0); };
+  if (uninterrupted(link) == 0) return true;
+  if (errno == ENOENT) return false;
+  if (!knowsNoLinks(errno)) fail("Mise de côté impossible", path);
+  // A directory has no second path on any disk.
+  if (directoryExists(path)) fail("Mise de côté impossible", path, EISDIR);
+  replace(path, under);
+  return true;
+}
+
 void DiskFiles::replace(const std::string& from, const std::string& to) {
-  if (std::rename(from.c_str(), to.c_str()) != 0) fail("Mise en place impossible", to);
-  flushDirectoryOf(to);
+  if (uninterrupted([&] { return std::rename(from.c_str(), to.c_str()); }) != 0) fail("Mise en place impossible", to);
 }
 
 void DiskFiles::Kill(const std::string& path) {
-  if (::unlink(path.c_str()) != 0) fail("Suppression impossible", path);
+  if (uninterrupted([&] { return std::remove(path.c_str()); }) != 0 && errno != ENOENT)
+    fail("Suppression impossible", path);
+}
+
+void DiskFiles::sync(const std::string& directory) {
+  OpenFile open(directory, O_RDONLY | O_DIRECTORY);
+  if (!open.isOpen()) fail("Écriture impossible", directory);
+  // A disk that cannot flush a directory says that the request is none.
+  if (!open.flush() && errno != EINVAL) fail("Écriture impossible", directory);
+}
+
+std::unique_ptr<FolderLock> DiskFiles::lock(const std::string& directory, float seconds) {
+  auto lock = std::make_unique<DirectoryLock>(directory);
+  const auto end = Time::now() + std::chrono::duration<float>(seconds);
+  while (!lock->take()) {
+    if (errno != EWOULDBLOCK) fail("Verrouillage impossible", directory);
+    if (Time::now() >= end) return nullptr;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  return lock;
 }
 
 }  // namespace orvane

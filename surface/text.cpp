@@ -42,6 +42,11 @@ std::string firstCharacters(std::string_view text, std::size_t count) {
   return std::string(text.substr(0, end));
 }
 
+std::string shortened(std::string_view text, std::size_t count) {
+  const std::string first = firstCharacters(text, count);
+  return first.size() < text.size() ? first + "…" : first;
+}
+
 std::string lowerCase(std::string_view text) {
   std::string lower;
   unicode(text).toLower(icu::Locale::getFrance()).toUTF8String(lower);

@@ -13,6 +13,8 @@ inline const std::string crLf = "\r\n";
 
 std::size_t characterCount(std::string_view text);
 std::string firstCharacters(std::string_view text, std::size_t count);
+// The same for a message, with an ellipsis behind it where characters are left out.
+std::string shortened(std::string_view text, std::size_t count = 1000);
 std::string lowerCase(std::string_view text);
 
 // Without the spaces at both ends.

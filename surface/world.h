@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The outside world, as interfaces that a run is given: a screen, a script player and the tests each bring their own.
 namespace orvane {
@@ -31,6 +33,8 @@ class Dialogs {
   virtual void runModal(Form& form) = 0;
   // Tells of a failure that no handler caught.
   virtual void failure(const std::string& description) = 0;
+  // Tells what the user should know and asked nothing about.
+  virtual void notice(const std::string& text) = 0;
 };
 
 class Clock {
@@ -61,20 +65,48 @@ class NoSettings : public Settings {
   void SaveSetting(const std::string&, const std::string&, const std::string&, const std::string&) override {}
 };
 
-// Files by path, relative to the current directory. All but the questions fail with a French reason that names the
-// path.
+// Held by one program at a time, until it is destroyed or its program ends.
+class FolderLock {
+ public:
+  virtual ~FolderLock() = default;
+};
+
+struct FolderEntry {
+  std::string name;
+  bool isFolder = false;  // a link to one is none
+};
+
+// Bytes. A longer file is not read.
+inline constexpr std::size_t largestFile = 64U << 20;
+
+// Files by path, relative to the current directory. Each either does its work or fails with a French reason that names
+// the path. What changes a directory is sure to last once that directory has been synced.
 class Files {
  public:
   virtual ~Files() = default;
+  // Anything but a directory.
   virtual bool fileExists(const std::string& path) = 0;
   virtual bool directoryExists(const std::string& path) = 0;
+  // Reads a regular file of at most largestFile bytes.
   virtual std::string read(const std::string& path) = 0;
-  virtual void MkDir(const std::string& path) = 0;
-  // Writes a new file and returns once its bytes are on the disk.
+  // All that a directory holds.
+  virtual std::vector<FolderEntry> list(const std::string& path) = 0;
+  // False where the name is taken.
+  virtual bool MkDir(const std::string& path) = 0;
+  // Writes a new file, never over another one, and returns once its bytes are on the disk.
   virtual void write(const std::string& path, std::string_view bytes) = 0;
-  // Puts a file in the place of another one, in one step.
+  // Gives a file the access rights of another one, and its owner, as far as the system allows.
+  virtual void takeRights(const std::string& path, const std::string& of) = 0;
+  // Gives a file, or a link itself, a second path; on a disk that knows no second paths it moves there. False where
+  // there is none.
+  virtual bool keep(const std::string& path, const std::string& under) = 0;
+  // Puts a file in the place of another one, or a directory where none is, in one step.
   virtual void replace(const std::string& from, const std::string& to) = 0;
+  // Removes a file, a link or an empty directory; none there is as good.
   virtual void Kill(const std::string& path) = 0;
+  virtual void sync(const std::string& directory) = 0;
+  // Waits some seconds at most; null where another one holds it all that time.
+  virtual std::unique_ptr<FolderLock> lock(const std::string& directory, float seconds) = 0;
 };
 
 // Twips are 1/1440 inch, pixels 1/96, on paper as on the screen.

@@ -12,8 +12,9 @@ int main(int argc, char** argv) {
   // Only the streams' own buffers tell a reader that standard input has failed.
   std::ios::sync_with_stdio(false);
   const std::vector<std::string> arguments(argv + 1, argv + argc);
-  // Pictures need no screen.
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Pictures need no screen, whatever the session's own settings ask for.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qunsetenv("QT_QPA_PLATFORMTHEME");
   int names = 1;  // the toolkit gets the name of the program and none of its arguments
   // What the toolkit misses in a session without a desktop is no message about a script.
   QLoggingCategory::setFilterRules("default.warning=false");

@@ -1,5 +1,6 @@
 #include "screen/screenshots/tour.h"
 
+#include <iostream>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
@@ -136,7 +137,7 @@ class Tour {
   const Album& album_;
   std::ostringstream transcriptText_;
   Transcript transcript_{transcriptText_};
-  PlayerDialogs dialogs_{transcript_};
+  PlayerDialogs dialogs_{transcript_, std::cerr};
   SystemClock timeOfDay_;
   PlayerClock clock_{timeOfDay_};
   NoSettings settings_;

@@ -30,7 +30,7 @@ TEST_F(LoadData, ALackOfMemoryIsToldWhereverItComes) {
   const std::string text = "a[return]" + std::string(50000, 'b') + "[return]c";
   largestPiece = 40000;
   EXPECT_EQ(prcReturnToCrLf(text, dialogs), "");
-  EXPECT_EQ(dialogs.log, (Log{"16|Tessaly|Erreur durant la lecture du texte " + text.substr(9)}));
+  EXPECT_EQ(dialogs.log, (Log{"16|Tessaly|Erreur durant la lecture du texte " + std::string(1000, 'b') + "…"}));
   put("ethnie", "\nA;1\n" + text + ";1\n");
   largestPiece = 40000;
   EXPECT_EQ(load(), (Log{"0|Tessaly|error : mémoire insuffisante pour lire les fichiers de données."}));

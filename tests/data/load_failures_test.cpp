@@ -16,6 +16,10 @@ TEST_F(LoadData, AFailureNamesThePlaceWhatStandsThereAndWhatWasExpected) {
     std::string file, text, message;
   } cases[] = {
       {"ethnie", "", "ethnie.txt, ligne 1, fichier vide : attendu une ligne de titre."},
+      {"ethnie", "T\rA;1\r",
+       "ethnie.txt, ligne 1, trouvé « T<0D>A;1<0D> », attendu des lignes qui se terminent par LF ou CR LF."},
+      {"ethnie", std::string(3, '\0'),
+       "ethnie.txt, ligne 1, trouvé « <00><00><00> », attendu des lignes qui se terminent par LF ou CR LF."},
       {"ethnie", "\nA;1\n\nB;2\n", "ethnie.txt, ligne 3, champ 1 (sName, nom de l'ethnie) : trouvé rien, " + separator},
       {"ethnie", "\nNordique;3;\n",
        "ethnie.txt, ligne 2, champ 2 (iMaxD, nombre de l'ethnie) : trouvé « 3; », " + integer + alone},

@@ -49,6 +49,39 @@ TEST_F(CommandLineTest, PlaysNothingWhenOneScriptIsWrongOrCannotBeRead) {
   }
 }
 
+// What dead programs left is told beside the transcript.
+TEST_F(CommandLineTest, BringsAnInterruptedSaveToItsEndAtTheStart) {
+  files.directories = {"./Perso", "./Perso/.sauvegarde-1"};
+  for (const char* file :
+       {"Luc_1.bmp", ".sauvegarde-1/Luc_1.old", ".sauvegarde-1/Luc_2.bmp", ".sauvegarde-1/Luc_2.nil"})
+    files.contents[std::string("./Perso/") + file] = file;
+  EXPECT_EQ(play("# rien"), 0);
+  EXPECT_EQ(transcript(), "");
+  EXPECT_EQ(err.str(),
+            "orvane-batch: La sauvegarde de « Luc » a été interrompue : ses fichiers sont de nouveau comme avant.\n");
+  EXPECT_EQ(files.directories, (std::set<std::string>{"./Perso"}));
+  EXPECT_EQ(files.contents["./Perso/Luc_1.bmp"], ".sauvegarde-1/Luc_1.old");
+  EXPECT_EQ(files.contents.count("./Perso/Luc_2.bmp"), 0U);
+}
+
+TEST_F(CommandLineTest, ASheetThatCouldNotBeSavedIsAStatusOfItsOwn) {
+  const std::string save =
+      "click mnuFileNewPJ\ntype txtPerso \"Luc\"\nclick cmdPrintPreview\nwindow \"Luc\"\nclick cmdSave(0)\n";
+  EXPECT_EQ(play(save), 0);
+  files.locked = true;
+  EXPECT_EQ(play(save), 3);
+  EXPECT_EQ(play(save + "click cmdNone\n", {"--keep-going"}), 3);
+}
+
+TEST_F(CommandLineTest, AMessageIsNeverLong) {
+  EXPECT_EQ(play(std::string(1000000, 'x')), 2);
+  EXPECT_LT(err.str().size(), 20000U);
+  EXPECT_EQ(play("window \"" + std::string(1000000, 'x') + "\""), 1);
+  EXPECT_LT(out.str().size(), 20000U);
+  EXPECT_EQ(play(std::string(largestFile + 1, '#')), 2);
+  EXPECT_EQ(err.str(), "-: Lecture impossible (le fichier dépasse 64 Mio).\n");
+}
+
 TEST_F(CommandLineTest, KnowsNoOtherOption) {
   EXPECT_EQ(play("windows", {"--keep-goin"}), 2);
   EXPECT_EQ(transcript(), "");

@@ -26,6 +26,7 @@ class RandomDialogs : public Dialogs {
   }
   void runModal(Form& form) override { user->actModal(form); }
   void failure(const std::string& description) override { failures += description + "\n"; }
+  void notice(const std::string& text) override { failures += text + "\n"; }
 };
 
 struct Played {

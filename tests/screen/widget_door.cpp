@@ -57,6 +57,12 @@ void WidgetDialogs::failure(const std::string& description) {
   screen_.failure(description);
 }
 
+void WidgetDialogs::notice(const std::string& text) {
+  player_.notice(text);
+  pressOnceOpen(Answer::OK, text);
+  screen_.notice(text);
+}
+
 Dialogs& WidgetDoor::dialogs(PlayerDialogs& player) {
   dialogs_ = std::make_unique<WidgetDialogs>(player, screen_);
   return *dialogs_;

@@ -18,6 +18,7 @@ class WidgetDialogs : public Dialogs {
   Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string& title) override;
   void runModal(Form& form) override;
   void failure(const std::string& description) override;
+  void notice(const std::string& text) override;
 
  private:
   PlayerDialogs& player_;

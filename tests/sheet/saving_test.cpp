@@ -6,7 +6,6 @@ namespace {
 const std::string front = "./Perso/Luc_1.bmp";
 const std::string back = "./Perso/Luc_2.bmp";
 using Contents = std::map<std::string, std::string>;
-using Fault = MemoryFiles::Fault;
 
 // What the boxes of a save that succeeds say, and both pictures in their files, is for the golden scripts and the
 // bitmaps of the examples.
@@ -95,81 +94,40 @@ TEST_F(Saving, AnyOtherNameIsWrittenAsItStands) {
   }
 }
 
-TEST_F(Saving, WhatReadsBackOtherwiseIsNotPutInPlace) {
-  const auto sheet = visualise();
-  files.contents = {{front, "old front"}};
-  files.lying = true;
-  save(*sheet, {Answer::OK, Answer::Yes});
-  EXPECT_EQ(lastBox(),
-            "16|Tessaly|Le personnage n'a pas pu être sauvé.\r\n"
-            "Le fichier ./Perso/Luc_1.~n~ se relit autrement qu'écrit.");
-  EXPECT_EQ(files.contents, (Contents{{front, "old front"}}));
-  EXPECT_TRUE(bothOpen(*sheet));
-}
-
-// What a failed save left behind may be all that is left of an old sheet: no later save touches it.
-TEST_F(Saving, ACopyKeptByAFailedSaveOutlivesTheNextOnes) {
-  const auto sheet = visualise();
-  const std::string kept = "./Perso/Luc_1.~o~";
-  files.contents = {{front, "newer front"}, {kept, "precious"}};
-  files.failAt(1, Fault::Before);
-  save(*sheet, {Answer::OK, Answer::Yes});
-  EXPECT_EQ(files.contents, (Contents{{front, "newer front"}, {kept, "precious"}}));
-  save(*sheet, {Answer::OK, Answer::Yes});
-  EXPECT_TRUE(sheet->wasUnloaded());
-  EXPECT_EQ(files.contents[kept], "precious");
-  EXPECT_EQ(files.contents.size(), 3U);
-}
-
-// Fails each access of a save in turn until a save meets no failure.
-class FailingSave : public Saving, public ::testing::WithParamInterface<std::tuple<Contents, Fault>> {
- protected:
-  const Contents before = std::get<0>(GetParam());
-  const Fault fault = std::get<1>(GetParam());
-
-  void expectUntouched(const frmFeuille& sheet) {
-    EXPECT_EQ(lastBox().substr(0, 54), "16|Tessaly|Le personnage n'a pas pu être sauvé.\r\nPan") << lastBox();
-    EXPECT_TRUE(bothOpen(sheet));
-    if (fault == Fault::Before || fault == Fault::After) {
-      EXPECT_EQ(files.contents, before);
-      EXPECT_EQ(lastBox().find("gardé"), std::string::npos);
-    }
-    for (const auto& [path, bytes] : before) expectKept(path, bytes);
-  }
-  // In its place, or where the message says.
-  void expectKept(const std::string& path, const std::string& bytes) {
-    const std::string copy = path.substr(0, path.size() - 4) + ".~o~";
-    const bool told = lastBox().find("L'ancien fichier est gardé sous " + copy + ".") != std::string::npos;
-    EXPECT_EQ(files.contents[told ? copy : path], bytes) << lastBox();
-    EXPECT_EQ(files.contents[path] != bytes, told) << lastBox();
-  }
-};
-
-TEST_P(FailingSave, LeavesThePairOfBeforeOrPutsTheNewOneInPlace) {
+TEST_F(Saving, AFailureIsToldAndLeavesTheWindowsOpenForAnotherTry) {
+  int told = 0;
+  globals.sheetNotSaved = [&] { ++told; };
   draw();
   const auto sheet = visualise();
-  int access = 1;
-  for (; access < 50; ++access) {
-    SCOPED_TRACE(access);
-    files.contents = before;
-    files.directories.clear();
-    files.failAt(access, fault);
+  files.contents = {{front, "old front"}};
+  const std::string box = "16|Tessaly|Le personnage n'a pas pu être sauvé.\r\n";
+  const auto fails = [&](const std::string& reason) {
     save(*sheet, {Answer::OK, Answer::Yes});
-    if (sheet->wasUnloaded()) break;
-    expectUntouched(*sheet);
-  }
-  EXPECT_GT(access, 5);
-  EXPECT_LT(access, 50);
-  EXPECT_EQ(files.contents[front], sheet->pctRecto.Image().bitmap());
-  EXPECT_EQ(files.contents[back], sheet->pctVerso.Image().bitmap());
+    EXPECT_NE(boxes().find(box + reason + "\n"), std::string::npos) << reason;
+    EXPECT_EQ(files.contents[front], "old front");
+    EXPECT_TRUE(bothOpen(*sheet));
+  };
+  files.locked = true;
+  fails("Un autre programme est en train de sauver un personnage dans ./Perso. Réessayez dans un instant.");
+  files.locked = false;
+  files.lying = true;
+  fails("Le fichier ./Perso/.sauvegarde-1/Luc_1.bmp se relit autrement qu'écrit.");
+  files.lying = false;
+  files.broken = {back};
+  fails("Accès refusé : " + back + ".");
+  files.broken = {"./Perso/.sauvegarde-1-finie"};
+  fails("Accès refusé : ./Perso/.sauvegarde-1-finie. Le dossier ./Perso/.sauvegarde-1 n'a pas pu être retiré.");
+  fails("Une sauvegarde interrompue de ce nom n'a pas pu être reprise ; elle est gardée dans ./Perso/.sauvegarde-1.");
+  EXPECT_EQ(told, 5);
+  files.broken = {"./Perso/.sauvegarde-1-finie/Luc_1.old"};
+  save(*sheet, {Answer::OK, Answer::Yes});
+  EXPECT_EQ(dialogs.log[dialogs.log.size() - 2], "64|Tessaly|Luc sauvé(e) dans ./Perso/Luc_x.bmp.");
+  EXPECT_EQ(lastBox(),
+            "notice|Le dossier ./Perso/.sauvegarde-1-finie n'a pas pu être retiré : "
+            "Accès refusé : ./Perso/.sauvegarde-1-finie/Luc_1.old.");
+  EXPECT_TRUE(sheet->wasUnloaded());
   EXPECT_EQ(printedIn(sheet->pctRecto, sheet->shpMutaDescro), "10 Peau épaisse, description.\n");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Disk, FailingSave,
-    ::testing::Combine(::testing::Values(Contents{}, Contents{{front, "old front"}}, Contents{{back, "old back"}},
-                                         Contents{{front, "old front"}, {back, "old back"}}),
-                       ::testing::Values(Fault::Before, Fault::After, Fault::Twice, Fault::FromThenOn)));
 
 }  // namespace
 }  // namespace orvane::test

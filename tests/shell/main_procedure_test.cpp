@@ -22,6 +22,7 @@ class StartTest : public ::testing::Test, protected Dialogs, Clock, Settings, De
   }
   void runModal(Form&) override { log.push_back("modal"); }
   void failure(const std::string& description) override { log.push_back("failure " + description); }
+  void notice(const std::string& text) override { log.push_back("notice " + text); }
 
   float Timer() override {
     log.push_back("Timer");
@@ -84,6 +85,14 @@ TEST_F(StartTest, RunsItsStepsInOrderAndWaitsOutTheSecond) {
   EXPECT_EQ(log, (Log{"SaveSetting MainLeft 1000", "SaveSetting MainTop 1000", "SaveSetting MainWidth 6500",
                       "SaveSetting MainHeight 6500", "unloaded frmMain"}));
   EXPECT_EQ(run.mainWindow(), nullptr);
+}
+
+TEST_F(StartTest, BringsAnInterruptedSaveToItsEndBehindTheMainWindow) {
+  files.directories = {"./Perso", "./Perso/.sauvegarde-1"};
+  start();
+  ASSERT_GE(log.size(), 2U);
+  EXPECT_EQ(log[log.size() - 2], "shown frmMain");
+  EXPECT_EQ(log.back(), "notice Une sauvegarde a été interrompue : ses fichiers sont de nouveau comme avant.");
 }
 
 TEST_F(StartTest, WaitsNoLongerThanIsLeft) {

@@ -9,7 +9,8 @@
 
 namespace orvane::test {
 
-// Dialogs that write down what is told, one text each, as "STYLE|TITLE|PROMPT" and "failure|DESCRIPTION".
+// Dialogs that write down what is told, one text each, as "STYLE|TITLE|PROMPT" "failure|DESCRIPTION"
+// and "notice|TEXT".
 class LoggedDialogs : public Dialogs {
  public:
   std::vector<std::string> log;
@@ -29,6 +30,7 @@ class LoggedDialogs : public Dialogs {
     if (modal) modal(form);
   }
   void failure(const std::string& description) override { log.push_back("failure|" + description); }
+  void notice(const std::string& text) override { log.push_back("notice|" + text); }
 };
 
 }  // namespace orvane::test

@@ -9,72 +9,83 @@
 
 namespace orvane::test {
 
-// Files that are kept in memory, by the very paths they are asked for.
+// Files that are kept in memory, by the very paths they are asked for. As a disk that knows no second paths.
 class MemoryFiles : public Files {
  public:
-  // One access fails, before or after it did its work; or it and the next one; or it and all behind it.
-  enum class Fault { Before, After, Twice, FromThenOn };
-
   std::map<std::string, std::string> contents;
   std::set<std::string> directories;
   // Paths whose every access fails, the questions apart.
   std::set<std::string> broken;
   // Writes half of what it is given, and says nothing.
   bool lying = false;
-
-  // Counts the accesses that change or read a file; 1 is the next one.
-  void failAt(int access, Fault fault) {
-    first_ = access_ + access;
-    fault_ = fault;
-  }
+  // Another program saves.
+  bool locked = false;
 
   bool fileExists(const std::string& path) override { return contents.count(path) > 0; }
   bool directoryExists(const std::string& path) override { return directories.count(path) > 0; }
   std::string read(const std::string& path) override {
-    std::string bytes;
-    run(path, [&] { bytes = existing(path); });
-    return bytes;
+    require(path);
+    return existing(path);
   }
-  void MkDir(const std::string& path) override {
-    run(path, [&] { directories.insert(path); });
+  std::vector<FolderEntry> list(const std::string& path) override {
+    require(path);
+    std::vector<FolderEntry> entries;
+    const auto add = [&](const std::string& other, bool isFolder) {
+      if (other.starts_with(path + "/") && other.find('/', path.size() + 1) == std::string::npos)
+        entries.push_back({other.substr(path.size() + 1), isFolder});
+    };
+    for (const auto& [file, bytes] : contents) add(file, false);
+    for (const auto& directory : directories) add(directory, true);
+    return entries;
+  }
+  bool MkDir(const std::string& path) override {
+    require(path);
+    return directories.insert(path).second;
   }
   void write(const std::string& path, std::string_view bytes) override {
-    run(path, [&] { contents[path] = bytes.substr(0, lying ? bytes.size() / 2 : bytes.size()); });
+    require(path);
+    contents[path] = bytes.substr(0, lying ? bytes.size() / 2 : bytes.size());
+  }
+  void takeRights(const std::string&, const std::string&) override {}
+  bool keep(const std::string& path, const std::string& under) override {
+    require(path);
+    if (!fileExists(path)) return false;
+    replace(path, under);
+    return true;
   }
   void replace(const std::string& from, const std::string& to) override {
-    run(to, [&] {
-      contents[to] = existing(from);
-      contents.erase(from);
-    });
+    require(to);
+    move(from, to);
   }
   void Kill(const std::string& path) override {
-    run(path, [&] {
-      existing(path);
-      contents.erase(path);
-    });
+    require(path);
+    contents.erase(path);
+    directories.erase(path);
+  }
+  void sync(const std::string& directory) override { require(directory); }
+  std::unique_ptr<FolderLock> lock(const std::string&, float) override {
+    return locked ? nullptr : std::make_unique<FolderLock>();
   }
 
  private:
-  template <class Act>
-  void run(const std::string& path, Act act) {
+  void require(const std::string& path) const {
     if (broken.count(path) > 0) throw Failure("Accès refusé : " + path + ".");
-    const bool fails = isFaulty(++access_);
-    if (!fails || fault_ == Fault::After) act();
-    if (fails) throw Failure("Panne : " + path + ".");
-  }
-  bool isFaulty(int access) const {
-    const int last = first_ + (fault_ == Fault::Twice ? 1 : 0);
-    return first_ > 0 && access >= first_ && (fault_ == Fault::FromThenOn || access <= last);
   }
   const std::string& existing(const std::string& path) const {
     const auto found = contents.find(path);
     if (found == contents.end()) throw Failure("Fichier introuvable : " + path + ".");
     return found->second;
   }
-
-  int access_ = 0;
-  int first_ = 0;
-  Fault fault_ = Fault::Before;
+  void move(const std::string& from, const std::string& to) {
+    if (directories.count(from) > 0) {
+      for (const auto& entry : list(from)) move(from + "/" + entry.name, to + "/" + entry.name);
+      directories.erase(from);
+      directories.insert(to);
+    } else {
+      contents[to] = existing(from);
+      contents.erase(from);
+    }
+  }
 };
 
 }  // namespace orvane::test
