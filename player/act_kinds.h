@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-class Stage;
+struct Stage;
 
 // A kind of act: how it is written, and what it does. Playing throws a Refusal where a user could not do it.
 struct ActKind {

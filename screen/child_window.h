@@ -14,7 +14,6 @@ class ChildWindow final : public QMdiSubWindow {
   ChildWindow(Form& form, ScreenDoor& door);
 
   Form& form() const { return view_->form(); }
-  FormView& view() const { return *view_; }
   // At that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();

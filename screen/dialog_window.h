@@ -17,7 +17,6 @@ class DialogWindow final : public QDialog {
   DialogWindow(Form& form, ScreenDoor& door, QWidget* parent);
 
   Form& form() const { return view_->form(); }
-  FormView& view() const { return *view_; }
   void showCaption();
   // Blocks until the form is unloaded.
   void runModal();

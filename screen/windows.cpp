@@ -30,12 +30,6 @@ Windows::~Windows() {
 ChildWindow* Windows::childOf(const Form& form) const { return windowOf(children_, form); }
 DialogWindow* Windows::dialogOf(const Form& form) const { return windowOf(dialogs_, form); }
 
-View* Windows::viewOf(const Control& control) const {
-  if (auto* child = childOf(control.form())) return child->view().viewOf(control);
-  if (auto* dialog = dialogOf(control.form())) return dialog->view().viewOf(control);
-  return nullptr;
-}
-
 void Windows::shown(Form& form) {
   switch (form.role()) {
     case Form::Role::Frame:

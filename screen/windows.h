@@ -23,8 +23,6 @@ class Windows final : public DesktopObserver {
   // None for a form without an open window.
   ChildWindow* childOf(const Form& form) const;
   DialogWindow* dialogOf(const Form& form) const;
-  // None for a control without a widget.
-  View* viewOf(const Control& control) const;
   // Shows a form and blocks until it is unloaded.
   void runModal(Form& form);
   // Run once the main window has closed.

@@ -205,7 +205,8 @@ void WidgetUser::scroll(Control& control, int value) {
 void WidgetUser::focus(Control& control) {
   check(control);
   if (!control.takesFocus()) return User::focus(control);
-  auto& shown = windows_.viewOf(control)->focusWidget();
+  auto* tabs = dynamic_cast<TabControl*>(&control);
+  QWidget& shown = tabs ? *widget<QTabWidget>(control).tabBar() : widget<QWidget>(control);
   // A window gives the keyboard to its first widget without telling the form; here the user comes to it.
   shown.clearFocus();
   shown.setFocus(Qt::TabFocusReason);
