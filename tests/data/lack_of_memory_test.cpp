@@ -1,9 +1,11 @@
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <limits>
 #include <new>
 
+#include "data/load_data.h"
 #include "data/return_marker.h"
-#include "tests/data/load_fixture.h"
+#include "tests/support/fakes.h"
 
 namespace {
 
@@ -26,14 +28,17 @@ std::size_t largestPiece = unlimited;  // the first one above is refused, once
 namespace orvane::test {
 namespace {
 
-TEST_F(LoadData, ALackOfMemoryIsToldWhereverItComes) {
+TEST(LackOfMemory, IsToldWhereverItComes) {
+  TestWorld<> world;
   const std::string text = "a[return]" + std::string(50000, 'b') + "[return]c";
   largestPiece = 40000;
-  EXPECT_EQ(prcReturnToCrLf(text, dialogs), "");
-  EXPECT_EQ(dialogs.log, (Log{"16|Tessaly|Erreur durant la lecture du texte " + std::string(1000, 'b') + "…"}));
-  put("ethnie", "\nA;1\n" + text + ";1\n");
+  EXPECT_EQ(prcReturnToCrLf(text, world.dialogs), "");
+  world.files.contents["./ethnie.txt"] = "\nA;1\n" + text + ";1\n";
   largestPiece = 40000;
-  EXPECT_EQ(load(), (Log{"0|Tessaly|error : mémoire insuffisante pour lire les fichiers de données."}));
+  ReferenceData data;
+  prcLoadData(data, world.files, world.dialogs);
+  EXPECT_EQ(world.dialogs.log, (Log{"16|Tessaly|Erreur durant la lecture du texte " + std::string(1000, 'b') + "…",
+                                    "0|Tessaly|error : mémoire insuffisante pour lire les fichiers de données."}));
 }
 
 }  // namespace

@@ -1,133 +1,148 @@
 #include "data/load_data.h"
 
-#include "tests/data/load_fixture.h"
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+
+#include "data/return_marker.h"
+#include "data/windows_1252.h"
+#include "surface/property.h"
+#include "surface/text.h"
+#include "tests/support/approved.h"
+#include "tests/support/fakes.h"
 
 namespace orvane::test {
 namespace {
 
-std::vector<double> list(const clsProfil& profil) { return {profil.colSkillPro.begin(), profil.colSkillPro.end()}; }
+namespace fs = std::filesystem;
 
-TEST_F(LoadData, FillsEveryMemberOfEveryRecord) {
-  EXPECT_EQ(load(), Log{});
-  EXPECT_EQ(counts(), (std::vector{1, 1, 2, 1, 1, 3, 1}));
-  const auto& grade = *data.colGrade(1);
-  const auto& skill = *data.colSkill(1);
-  const auto& mutation = *data.colMutation(1);
-  EXPECT_EQ(data.colEthnie(1)->sName, "Nordique");
-  EXPECT_EQ(grade.sName + " " + grade.sDescro, "Officier Début; de carrière.[return]");
-  EXPECT_EQ(data.colProfil(1)->sName + " " + data.colProfil(1)->sDescro, "Patrouilleur Agent.\r\nRues.");
-  EXPECT_EQ(list(*data.colProfil(1)), (std::vector<double>{3, 12, 101}));
-  EXPECT_EQ(skill.sName + " " + skill.sDescro, "Filature Suivre; sans être vu.[return]");
-  EXPECT_EQ((std::vector<int>{data.colEthnie(1)->iMaxD, grade.iSalaire, skill.iKey, skill.iStart, mutation.iNum}),
-            (std::vector{3, 1500, 12, 2, 7}));
-  EXPECT_EQ(mutation.sCateg + " " + mutation.sSign + " " + mutation.sName + " " + mutation.sDescro,
-            "Bêta Plus Peau épaisse Résiste;\r\nAucun coût.");
-  EXPECT_EQ(data.colDistrict(1)->sName + " " + data.colDistrict(1)->sDescro, "Port Docks;\r\n\r\nMal famé.\r\n");
+const fs::path cases = sourceFolder() / "tests/data/cases";
+
+class LoadData : public testing::Test, protected TestWorld<> {
+ protected:
+  LoadData() { files = filesOf(cases / "sound"); }
+
+  const Log& load() {
+    data = ReferenceData();
+    dialogs.log.clear();
+    prcLoadData(data, files, dialogs);
+    return dialogs.log;
+  }
+
+  ReferenceData data;
+};
+
+std::ostream& operator<<(std::ostream& out, const clsMartialTechnic& technic) {
+  return out << technic.sName << " " << technic.sType << " " << technic.iKey << " " << orvane::quoted(technic.sDescro);
+}
+
+// Every record with all its members, a line each.
+std::string described(const ReferenceData& data) {
+  std::ostringstream out;
+  for (const auto& one : data.colEthnie) out << "ethnie " << one->sName << " " << one->iMaxD << "\n";
+  for (const auto& one : data.colGrade)
+    out << "grade " << one->iSalaire << " " << one->sName << " " << orvane::quoted(one->sDescro) << "\n";
+  for (const auto& one : data.colProfil) {
+    out << "profil " << orvane::quoted(one->sName) << " " << one->bAsserm << " " << orvane::quoted(one->sDescro);
+    for (const double key : one->colSkillPro) out << " " << key;
+    out << "\n";
+  }
+  out << "sworn " << data.iProfilAsserm << "\n";
+  for (const auto& one : data.colSkill)
+    out << "skill " << one->iKey << " " << one->sName << " " << one->iStart << " " << orvane::quoted(one->sDescro)
+        << "\n";
+  for (const auto& one : data.colMutation)
+    out << "mutation " << one->sCateg << " " << one->sSign << " " << one->iNum << " " << one->sName << " "
+        << orvane::quoted(one->sDescro) << "\n";
+  for (const auto& one : data.colMartialArt) {
+    out << "art " << one->sName << " " << one->iRestrictO << " " << one->iRestrictD << " "
+        << orvane::quoted(one->sDescro);
+    const auto& technics = one->colMartialTechnic;
+    for (std::int32_t i = 1; i <= technics.Count(); ++i) out << "\n  " << *technics(i);
+    out << "\n";
+  }
+  for (const auto& one : data.colDistrict)
+    out << "district " << orvane::quoted(one->sName) << " " << orvane::quoted(one->sDescro) << "\n";
+  return out.str();
+}
+
+// tests/data/cases/NAME: files that take the place of the sound ones, and what is then told and read.
+TEST_F(LoadData, ReadsAndTellsAsApproved) {
+  for (const auto& entry : fs::directory_iterator(cases)) {
+    for (const auto& [path, bytes] : filesOf(entry.path()).contents) files.contents[path] = bytes;
+    std::string told;
+    for (const auto& message : load()) told += message + "\n";
+    expectApproved(entry.path() / "expected", told + described(data));
+    files = filesOf(cases / "sound");
+  }
 }
 
 TEST_F(LoadData, ArtsShareTheRecordsOfTheirTechniques) {
-  put("martial_technic", "\nBalayage;o;4;Fait chuter;[return]\nSecond;d;4;\nParade;d;9;Pare.\n");
-  EXPECT_EQ(load(), Log{}) << "the first of two techniques with one key wins";
-  const auto& boxe = *data.colMartialArt(1);
-  EXPECT_EQ(boxe.sName + " " + boxe.sDescro, "Boxe Frappe.\r\nEn salle.");
-  EXPECT_EQ(boxe.iRestrictO, 2);
-  EXPECT_EQ(boxe.iRestrictD, 1);
-  ASSERT_EQ(boxe.colMartialTechnic.Count(), 3);
-  const auto balayage = boxe.colMartialTechnic(1);
-  EXPECT_EQ(balayage->sName + " " + balayage->sType + " " + balayage->sDescro, "Balayage o Fait chuter;[return]");
-  EXPECT_EQ(balayage->iKey, 4);
-  EXPECT_FALSE(balayage->bSelected);
-  EXPECT_EQ(boxe.colMartialTechnic(2)->sName, "Parade");
-  EXPECT_EQ(boxe.colMartialTechnic(3), balayage);
-  EXPECT_EQ(data.colMartialArt(2)->colMartialTechnic(1), balayage);
+  load();
+  EXPECT_EQ(data.colMartialArt(1)->colMartialTechnic(1), data.colMartialArt(2)->colMartialTechnic(1));
 }
 
-TEST_F(LoadData, UnknownTechniquesAreWarnedOfOneByOneAndLeftOut) {
-  put("martial_art", "\nBoxe;0;0;;77;4;x;\nSavate;0;0;;77;\n");
-  const std::string warning = "48|Tessaly|Il existe une technique martiale inconnue dans ";
-  EXPECT_EQ(load(), (Log{warning + "Boxe", warning + "Boxe", warning + "Savate"}));
-  EXPECT_EQ(data.colMartialArt(1)->colMartialTechnic.Count(), 1);
-  remove("martial_technic");
-  put("martial_art", "\nBoxe;0;0;;4;\n");
-  EXPECT_EQ(load(), (Log{"16|Tessaly|Fichier martial_technic.txt manquant.", warning + "Boxe"}));
-}
-
-TEST_F(LoadData, MissingFilesAreToldInOrderAndTheOthersRead) {
-  for (const char* name : {"grade", "profil"}) remove(name);
-  EXPECT_EQ(load(), (Log{"16|Tessaly|Fichier grade.txt manquant.", "16|Tessaly|Fichier profil.txt manquant."}));
-  EXPECT_EQ(counts(), (std::vector{1, 0, 0, 1, 1, 3, 1}));
-  EXPECT_EQ(data.iProfilAsserm, 0);
-}
-
-TEST_F(LoadData, WithoutTheAssermenteProfileReadingEnds) {
-  const Log none = {"16|Tessaly|Erreur: pas de profil \"Assermenté\" chargé."};
-  for (const std::string line : {"assermenté;0;;\n", "Assermenté ;0;;\n", " Assermenté;0;;\n"}) {
-    put("profil", "\nPilote;0;;\n" + line);
-    EXPECT_EQ(load(), none) << line;
-    EXPECT_EQ(counts(), (std::vector{1, 1, 2, 0, 0, 0, 0}));
-  }
-  put("profil", "Titre seul\n");
-  EXPECT_EQ(load(), none);
-  put("profil", "\nAssermenté;0;;\nPilote;0;;\nAssermenté;1;;\nGarde;0;;\n");
-  EXPECT_EQ(load(), Log{});
-  EXPECT_EQ(data.iProfilAsserm, 3) << "the last one counts";
+TEST_F(LoadData, WhatCannotBeReadAtAllEndsTheReading) {
+  files.broken.insert("./skill.txt");
+  EXPECT_EQ(load(), (Log{"0|Tessaly|error : Accès refusé : ./skill.txt."}));
+  EXPECT_EQ(data.colProfil.Count(), 2);
+  EXPECT_EQ(data.colMutation.Count(), 0);
 }
 
 TEST_F(LoadData, AnAssermenteProfileOutOfReachIsAFailure) {
   std::string text = "\n";
   for (int i = 0; i < 32767; ++i) text += "P;0;;\n";
-  put("profil", text + "Assermenté;0;;\n");
+  files.contents["./profil.txt"] = text + "Asserment\xE9;0;;\n";
   EXPECT_EQ(load(), (Log{"0|Tessaly|error : fichier profil.txt, ligne 32769, le profil \"Assermenté\" vient au-delà du "
                          "32767e profil."}));
 }
 
-TEST_F(LoadData, LinesEndInLfOrCrLfOrTheFile) {
-  for (const std::string text : {"T\nA;1\nB;2\n", "T\r\nA;1\r\nB;2\r\n", "T\nA;1\r\nB;2", "\n", "Titre"}) {
-    put("ethnie", text);
-    EXPECT_EQ(load(), Log{}) << text;
-    std::string read;
-    for (const auto& ethnie : data.colEthnie) read += ethnie->sName + std::to_string(ethnie->iMaxD);
-    EXPECT_EQ(read, text.size() > 5 ? "A1B2" : "");
+TEST(Windows1252, LacksFiveCharacters) {
+  std::string lacking;
+  for (int code = 0; code < 256; ++code)
+    if (!inWindows1252(static_cast<char>(code))) lacking += static_cast<char>(code);
+  EXPECT_EQ(lacking, "\x81\x8D\x8F\x90\x9D");
+  EXPECT_EQ(fromWindows1252("~\x7F\x80\x82\x9C\x99\xA0\xFF"), "~\x7F€‚œ™\u00A0ÿ");
+}
+
+TEST(ReturnMarker, BecomesALineEndWhereverItStands) {
+  LoggedDialogs dialogs;
+  EXPECT_EQ(prcReturnToCrLf("[return]a[return][return]b[return]", dialogs), "\r\na\r\n\r\nb\r\n");
+  EXPECT_EQ(prcReturnToCrLf("[RETURN] [return[return] [re[return]turn]", dialogs), "[RETURN] [return\r\n [re\r\nturn]");
+}
+
+bool isUtf8Text(const std::string& text) { return lowerCase(text).find("\uFFFD") == std::string::npos; }
+
+// One to eight places changed, taken out or doubled.
+void damage(std::string& bytes, std::mt19937& random) {
+  const std::string_view likely = ";\n\r0-.e\x81\x9D[]";
+  for (auto times = 1 + random() % 8; times > 0 && !bytes.empty(); --times) {
+    const auto at = random() % bytes.size();
+    const auto kind = random() % 4;
+    if (kind == 0) bytes[at] = static_cast<char>(random() % 256);
+    if (kind == 1) bytes[at] = likely[random() % likely.size()];
+    if (kind == 2) bytes.erase(at, 1 + random() % 10);
+    if (kind == 3) bytes.insert(at, bytes.substr(at, random() % 20));
   }
 }
 
-TEST_F(LoadData, IntegersAreRoundedHalvesToEven) {
-  put("ethnie", "\nA;2.5\nB;3.5\nD; 7 \nE;-32768\nF;32767.4\nG;1e2\n");
-  EXPECT_EQ(load(), Log{});
-  std::vector<int> values;
-  for (const auto& ethnie : data.colEthnie) values.push_back(ethnie->iMaxD);
-  EXPECT_EQ(values, (std::vector{2, 4, 7, -32768, 32767, 100}));
-}
-
-TEST_F(LoadData, BooleansAreWordsOrNumbers) {
-  for (const auto& [word, truth] : {std::pair{"TRUE", true},
-                                    {"vrai", true},
-                                    {"-1", true},
-                                    {"0.4", true},
-                                    {"False", false},
-                                    {"FAUX", false},
-                                    {"0", false}}) {
-    put("profil", std::string("\nAssermenté;") + word + ";;\n");
-    EXPECT_EQ(load(), Log{});
-    EXPECT_EQ(data.colProfil(1)->bAsserm, truth) << word;
+TEST_F(LoadData, DamagedFilesAreReadOrReportedAndNeverMore) {
+  const auto sound = files.contents;
+  std::mt19937 random(1);
+  int failures = 0;
+  for (int round = 0; round < 600; ++round) {
+    files.contents = sound;
+    for (auto& [path, bytes] : files.contents)
+      if (random() % 4 == 0) damage(bytes, random);
+    for (const auto& message : load()) {
+      EXPECT_TRUE(isUtf8Text(message)) << message;
+      failures += message.starts_with("0|Tessaly|error : fichier ");
+    }
+    EXPECT_TRUE(isUtf8Text(described(data)));
+    EXPECT_LE(data.iProfilAsserm, data.colProfil.Count());
   }
-}
-
-TEST_F(LoadData, ListsTakeTheNumberThatAnElementBeginsWith) {
-  put("profil", "\nAssermenté;0;;;x4;12abc;2.5; 7;40000;2,5;\n");
-  put("martial_art", "\nBoxe;0;0;;3.5 coups;\n");
-  EXPECT_EQ(load(), Log{});
-  EXPECT_EQ(list(*data.colProfil(1)), (std::vector<double>{0, 0, 12, 2.5, 7, 40000, 2}));
-  EXPECT_EQ(data.colMartialArt(1)->colMartialTechnic(1)->sName, "Balayage") << "keys are rounded";
-}
-
-TEST_F(LoadData, TextsAreKeptAsTheyStand) {
-  put("district", "\n Le Port ;[RETURN]\tété [retur]n]\r; \n");
-  files.contents["./district.txt"] += "\x80uro \x9C\x99\xFF;\n";
-  EXPECT_EQ(load(), Log{});
-  EXPECT_EQ(data.colDistrict(1)->sName, " Le Port ");
-  EXPECT_EQ(data.colDistrict(1)->sDescro, "[RETURN]\tété [retur]n]\r; ");
-  EXPECT_EQ(data.colDistrict(2)->sName, "€uro œ™ÿ");
+  EXPECT_GT(failures, 50);
+  EXPECT_LT(failures, 550);
 }
 
 }  // namespace

@@ -6,14 +6,16 @@
 #include <vector>
 
 #include "player/play_scripts.h"
+#include "tests/support/approved.h"
 #include "tests/support/fakes.h"
-#include "tests/support/game_files.h"
 
 namespace orvane::test {
 
 // The player on the game, with files in memory. Scripts go to standard input or to files of their own.
-class PlayFixture : public ::testing::Test {
+class PlayFixture : public ::testing::Test, protected TestWorld<> {
  protected:
+  PlayFixture() { files = filesOf(); }
+
   int play(const std::string& script, const std::vector<std::string>& arguments = {}) {
     std::istringstream in(script);
     out.str("");
@@ -22,9 +24,6 @@ class PlayFixture : public ::testing::Test {
   }
   std::string transcript() const { return out.str(); }
 
-  MemoryFiles files = gameFiles();
-  BlankPictures pictures;
-  FakeClock clock;
   std::ostringstream out;
   std::ostringstream err;
 };

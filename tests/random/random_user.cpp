@@ -27,7 +27,7 @@ bool holdsANumberOfTheRules(const Control& control) {
 // What ends a window or starts a side over is rare, so that characters grow old enough to be worth it: one in so many.
 int rarity(const Control& control) {
   static const std::map<std::string, int> rare{
-      {"cmdClose", 60},  {"cmdSave", 60},    {"cmdPrintPreview", 60}, {"cmdHelp", 60},
+      {"cmdClose", 60},  {"cmdSave", 8},     {"cmdPrintPreview", 60}, {"cmdHelp", 60},
       {"cmbProfil", 20}, {"cmbVehicle", 20}, {"chkMuta", 4},          {"cmdMutaRandomChoice", 10}};
   const auto found = rare.find(control.Name());
   return found == rare.end() ? 1 : found->second;

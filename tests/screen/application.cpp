@@ -1,5 +1,3 @@
-#include "tests/screen/application.h"
-
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -10,27 +8,26 @@
 namespace orvane::test {
 namespace {
 
-// Ends before the process does: Qt's platform plugins do not outlive main.
-class ApplicationEnvironment : public ::testing::Environment {
+// The one QApplication of all tests. It ends before the process does: Qt's platform plugins do not outlive main.
+class Application : public ::testing::Environment {
  public:
-  void TearDown() override { application.reset(); }
+  void SetUp() override {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(count_, arguments_);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setDoubleClickInterval(50);  // what takes longer than a double click need not be waited for
+    dressUp();
+  }
+  void TearDown() override { application_.reset(); }
 
-  static inline std::unique_ptr<QApplication> application;
+ private:
+  int count_ = 1;
+  char name_[13] = "screen_tests";
+  char* arguments_[2] = {name_, nullptr};
+  std::unique_ptr<QApplication> application_;
 };
 
-const auto* const environment = ::testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
+[[maybe_unused]] const auto* const environment = ::testing::AddGlobalTestEnvironment(new Application);
 
 }  // namespace
-
-void needApplication() {
-  static int count = 1;
-  static char name[] = "screen_tests";
-  static char* arguments[] = {name, nullptr};
-  if (qApp) return;
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  ApplicationEnvironment::application = std::make_unique<QApplication>(count, arguments);
-  QApplication::setQuitOnLastWindowClosed(false);
-  dressUp();
-}
-
 }  // namespace orvane::test

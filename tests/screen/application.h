@@ -2,7 +2,7 @@
 
 namespace orvane::test {
 
-// Makes the one QApplication of all tests, without a screen unless the environment names one.
-void needApplication();
+// The tests of the screen have an application from their start.
+inline void needApplication() {}
 
 }  // namespace orvane::test

@@ -1,10 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <gtest/gtest.h>
-#include <map>
-#include <string>
-
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -13,70 +8,53 @@
 #include <QTimer>
 
 #include "canvas/qt_pictures.h"
-#include "editor/frmPersonnage.h"
 #include "screen/screen_dialogs.h"
 #include "screen/windows.h"
-#include "shell/main_procedure.h"
-#include "tests/screen/application.h"
-#include "tests/support/fakes.h"
-#include "tests/support/game_files.h"
+#include "tests/screen/hands.h"
+#include "tests/screen/likeness.h"
+#include "tests/support/test_run.h"
 
 namespace orvane::test {
 
-// A store in memory.
-class MemorySettings : public Settings {
- public:
-  std::map<std::string, std::string> values;
-
-  std::string GetSetting(const std::string&, const std::string&, const std::string& key,
-                         const std::string& defaultValue) override {
-    return values.contains(key) ? values[key] : defaultValue;
-  }
-  void SaveSetting(const std::string&, const std::string&, const std::string& key, const std::string& value) override {
-    values[key] = value;
-  }
-};
-
-// The whole program on the game, with files in memory.
-class DesktopFixture : public ::testing::Test {
+// The whole program on the screen and on the game, with files in memory.
+class DesktopFixture : public TestRun<ScreenDialogs, QtPictures> {
  protected:
   void start() {
     dialogs.setWindows(windows);
     run.Main();
     turn();
-    ASSERT_TRUE(windows.mainWindow());
     windows.mainWindow()->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(windows.mainWindow()));
   }
-  ~DesktopFixture() override { settle(); }
-  static void turn() { QCoreApplication::processEvents(); }
-  // Deletes what waits for it, as each turn of a running event loop does.
-  static void settle() {
-    turn();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  void start(const char* width, const char* height, const char* left = "0", const char* top = "0") {
+    const std::string section = "Tessaly/Settings/Main";
+    settings.values = {
+        {section + "Left", left}, {section + "Top", top}, {section + "Width", width}, {section + "Height", height}};
+    start();
   }
+  ~DesktopFixture() override { turn(); }
+
+  MainWindow& mainWindow() { return *windows.mainWindow(); }
   void menu(const char* name) {
-    auto* action = windows.mainWindow()->findChild<QAction*>(name);
+    auto* action = mainWindow().findChild<QAction*>(name);
     ASSERT_TRUE(action) << name;
     action->trigger();
     turn();
   }
   frmPersonnage& newCharacter() {
     menu("mnuFileNewPJ");
-    return *run.globals().frmCurrentPerso;
+    return *globals().frmCurrentPerso;
   }
-  void perform(const std::function<void(User&)>& act) {
-    windows.door().act(act);
+  void perform(const std::function<void()>& act) {
+    act();
     turn();
   }
   void pickTab(frmPersonnage& character, int tab) {
-    perform([&](User& user) { user.pick(character.SSTabPerso, tab); });
+    perform([&] { user.pick(character.SSTabPerso, tab); });
   }
   template <class Widget>
   Widget& find(const Form& form, const char* name) {
-    QWidget* window = windows.childOf(form);
-    if (!window) window = windows.dialogOf(form);
-    auto* widget = window->findChild<Widget*>(name);
+    auto* widget = windowOf(windows, form)->findChild<Widget*>(name);
     EXPECT_TRUE(widget) << name;
     return *widget;
   }
@@ -91,19 +69,6 @@ class DesktopFixture : public ::testing::Test {
     });
   }
 
- private:
-  struct Application {
-    Application() { needApplication(); }
-  };
-  Application application_;
-
- protected:
-  ScreenDialogs dialogs;
-  FakeClock clock;
-  MemorySettings settings;
-  MemoryFiles files = gameFiles();
-  QtPictures pictures;
-  orvane::Run run{{dialogs, clock, settings, files, pictures}};
   Windows windows{run.desktop()};
 };
 

@@ -44,7 +44,7 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
   const auto contactsAfter = [&](const std::function<void(DialogWindow&)>& deed) {
     onceOpen<DialogWindow>(deed);
     QTest::mouseClick(&find<QPushButton>(character, "cmdContactNew"), Qt::LeftButton);
-    settle();
+    turn();
     EXPECT_FALSE(run.desktop().modal());
     EXPECT_FALSE(QGuiApplication::overrideCursor());
     return find<QListWidget>(character, "lstContact").count();
@@ -53,7 +53,7 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
     EXPECT_EQ(run.desktop().modal()->Name(), "frmContact");
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
     // The windows behind take nothing.
-    EXPECT_FALSE(windows.door().act([&](User& user) { user.focus(character.txtJoueur); }));
+    EXPECT_FALSE(windows.door().act([&](User& own) { own.focus(character.txtJoueur); }));
     auto* name = dialog.findChild<QLineEdit*>("txtContactName");
     name->setFocus();
     QTest::keyClicks(name, "Max");
@@ -66,7 +66,6 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
 }
 
 TEST(SettingsOnDisk, KeepTextsBetweenRuns) {
-  needApplication();
   const QTemporaryDir folder;
   EXPECT_EQ(QtSettings(folder.path()).GetSetting("Tessaly", "Settings", "MainLeft", "1000"), "1000");
   QtSettings(folder.path()).SaveSetting("Tessaly", "Settings", "MainLeft", "123.5");

@@ -20,8 +20,8 @@ class EveryForm : public DesktopFixture {
     Form& character = newCharacter();
     check(character, *windows.childOf(character)->widget());
     for (const auto& form : std::initializer_list<std::shared_ptr<Form>>{
-             std::make_shared<frmFeuille>(run.globals()), std::make_shared<FrmReadMe>(run.desktop()),
-             std::make_shared<frmContact>(run.globals()), std::make_shared<frmSplash>(run.desktop())}) {
+             std::make_shared<frmFeuille>(globals()), std::make_shared<FrmReadMe>(run.desktop()),
+             std::make_shared<frmContact>(globals()), std::make_shared<frmSplash>(run.desktop())}) {
       form->Show();
       turn();
       auto* child = windows.childOf(*form);

@@ -17,7 +17,6 @@ namespace {
 class Fitting : public EveryForm, public ::testing::WithParamInterface<double> {
  protected:
   Fitting() {
-    needApplication();
     former_ = QApplication::font();
     QFont larger = former_;
     larger.setPointSizeF(former_.pointSizeF() * GetParam());
@@ -99,7 +98,7 @@ TEST_F(EveryForm, FitsASmallScreen) {
   const QSize menuAndFrames(0, 30);
   forEach([&](Form& form, QWidget& window) {
     if (form.Name() == "frmFeuille") return;  // takes what there is
-    const QSize needed = window.window() == &window ? window.size() : window.parentWidget()->size() + menuAndFrames;
+    const QSize needed = window.isWindow() ? window.size() : window.parentWidget()->size() + menuAndFrames;
     EXPECT_LE(needed.width(), 1280) << form.Name();
     EXPECT_LE(needed.height(), 690) << form.Name();
   });

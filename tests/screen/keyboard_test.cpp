@@ -9,10 +9,6 @@ namespace {
 
 class Keyboard : public DesktopFixture {
  protected:
-  void open(const char* width = "15000", const char* height = "10500") {
-    settings.values = {{"MainWidth", width}, {"MainHeight", height}};
-    start();
-  }
   static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     turn();
@@ -51,7 +47,7 @@ TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
       "lvwSkillGen txtSkillRest cmdSkillGenModif_0 cmdSkillGenModif_1",
       "lvwMartialArt cmdMartialArtModif_0 cmdMartialArtModif_1 lvwMartialTechnic",
       "chkMuta cmbMutaCateg cmbMutaName cmdMutaRandomChoice txtParticulSign"};
-  open();
+  start("15000", "10500");
   auto& character = newCharacter();
   for (int tab = 0; tab < 6; ++tab) {
     pickTab(character, tab);
@@ -66,7 +62,7 @@ TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
 
 // A button that a mnemonic presses is seen to go down before it clicks.
 TEST_F(Keyboard, MnemonicsPressTheButtonsOfTheActiveWindowOnly) {
-  open();
+  start("15000", "10500");
   auto& first = newCharacter();
   auto& second = newCharacter();
   const auto activeSoon = [this](const std::string& name) {
@@ -76,7 +72,7 @@ TEST_F(Keyboard, MnemonicsPressTheButtonsOfTheActiveWindowOnly) {
   press(Qt::Key_A, Qt::AltModifier);
   EXPECT_TRUE(activeSoon("FrmReadMe"));
   press(Qt::Key_Escape);
-  settle();
+  turn();
   ASSERT_EQ(run.desktop().activeChild(), &second);
   find<QWidget>(second, "txtPerso").setFocus();
   press(Qt::Key_C, Qt::AltModifier);
@@ -85,20 +81,20 @@ TEST_F(Keyboard, MnemonicsPressTheButtonsOfTheActiveWindowOnly) {
 }
 
 TEST_F(Keyboard, CtrlTabGoesRoundTheWindowsBothWays) {
-  open();
+  start("15000", "10500");
   Form* opened[] = {&newCharacter(), &newCharacter(), &newCharacter()};
   const auto back = Qt::ControlModifier | Qt::ShiftModifier;
   const std::pair<Qt::KeyboardModifiers, int> steps[] = {
       {Qt::ControlModifier, 0}, {Qt::ControlModifier, 1}, {back, 0}, {back, 2}};
   for (const auto& [modifiers, active] : steps) {
-    QTest::keyClick(windows.mainWindow(), Qt::Key_Tab, modifiers);
+    QTest::keyClick(&mainWindow(), Qt::Key_Tab, modifiers);
     turn();
     EXPECT_EQ(run.desktop().activeChild(), opened[active]);
   }
 }
 
 TEST_F(Keyboard, LabelsThatTellSomethingAreReachedToo) {
-  open();
+  start("15000", "10500");
   auto& character = newCharacter();
   pickTab(character, 1);
   auto& reaction = find<QLabel>(character, "lblSecondCaract_1");
@@ -112,20 +108,20 @@ TEST_F(Keyboard, LabelsThatTellSomethingAreReachedToo) {
 }
 
 TEST_F(Keyboard, EnterAndEscapeCloseAbout) {
-  open();
+  start("15000", "10500");
   for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
     onceOpen<DialogWindow>([&](DialogWindow& about) { QTest::keyClick(&about, key); });
     menu("mnuHelpAbout");
-    settle();
+    turn();
     EXPECT_FALSE(run.desktop().modal());
   }
 }
 
 TEST_F(Keyboard, TheFocusComesIntoSight) {
-  open("6500", "6500");
+  start("6500", "6500");
   auto& character = newCharacter();
   find<QWidget>(character, "txtJoueur").setFocus(Qt::TabFocusReason);
-  const auto* sight = windows.mainWindow()->area().viewport();
+  const auto* sight = mainWindow().area().viewport();
   for (const auto& name : round(Qt::Key_Tab)) {
     auto* widget = QApplication::focusWidget();
     const QRect place(widget->mapTo(sight, QPoint()), widget->size());

@@ -50,7 +50,7 @@ class Secrecy : public DesktopFixture {
     character = &newCharacter();
     pickTab(*character, 5);
   }
-  Texts shown() { return Texts(*windows.mainWindow()); }
+  Texts shown() { return Texts(mainWindow()); }
   // Behind the number and the blank.
   QString powerName(int index) const { return QString::fromStdString(character->cmbMutaName.List(index)).mid(4); }
   QString description(int index) const {
@@ -71,16 +71,16 @@ class Secrecy : public DesktopFixture {
   }
   void click(const char* button) {
     QTest::mouseClick(&find<QWidget>(*character, button), Qt::LeftButton);
-    settle();
+    turn();
   }
   // With a name of its own for all that needs one.
   void makeValid() {
     pickTab(*character, 0);
-    perform([&](User& user) { user.type(character->txtPerso, "Anne"); });
+    perform([&] { user.type(character->txtPerso, "Anne"); });
     pickTab(*character, 3);
     for (const auto& row : character->lvwSkillGen.rows())
       if (row->Text().find("préciser") != std::string::npos)
-        perform([&](User& user) { user.edit(character->lvwSkillGen, row->Index(), "Cuisine"); });
+        perform([&] { user.edit(character->lvwSkillGen, row->Index(), "Cuisine"); });
     pickTab(*character, 5);
   }
   void expectSecret(const char* when) {
@@ -94,7 +94,7 @@ class Secrecy : public DesktopFixture {
 };
 
 TEST_F(Secrecy, NothingOnTheScreenTellsADrawnPower) {
-  perform([&](User& user) { user.pick(character->cmbMutaName, 1); });
+  perform([&] { user.pick(character->cmbMutaName, 1); });
   EXPECT_TRUE(shown().hold(powerName(1)) && shown().hold(description(1))) << "what is chosen is shown";
   draw();
   const int drawn = character->cmbMutaName.ListIndex();
@@ -116,10 +116,10 @@ TEST_F(Secrecy, TheSheetDoesNotTellItEither) {
   answers.start(1);
   click("cmdPrintPreview");
   answers.stop();
-  ASSERT_TRUE(run.globals().frmCurrentFeuille);
+  ASSERT_TRUE(globals().frmCurrentFeuille);
   expectSecret("beside the sheet");
   const auto name = powerName(character->cmbMutaName.ListIndex()).toStdString();
-  for (const auto& print : run.globals().frmCurrentFeuille->log.printed)
+  for (const auto& print : globals().frmCurrentFeuille->log.printed)
     EXPECT_EQ(print.text.find(name), std::string::npos);
 }
 

@@ -10,14 +10,13 @@ namespace {
 class SheetWindows : public DesktopFixture {
  protected:
   SheetWindows() {
-    settings.values = {{"MainWidth", "18000"}, {"MainHeight", "10000"}};
-    start();
+    start("18000", "10000");
     sheet->Show();
     turn();
   }
   QWidget& picture(const char* name) { return find<QWidget>(*sheet, name); }
 
-  std::shared_ptr<frmFeuille> sheet = std::make_shared<frmFeuille>(run.globals());
+  std::shared_ptr<frmFeuille> sheet = std::make_shared<frmFeuille>(globals());
 };
 
 TEST_F(SheetWindows, ShowsThePicturePixelForPixel) {
@@ -67,7 +66,7 @@ TEST_F(SheetWindows, TheOtherSideComesToTheFrontBelowTheStrip) {
 }
 
 TEST_F(SheetWindows, OpensAsTallAsTheMainWindowAllows) {
-  const int room = windows.mainWindow()->area().viewport()->height();
+  const int room = mainWindow().area().viewport()->height();
   EXPECT_EQ(windows.childOf(*sheet)->geometry().bottom() + 1, room);
   EXPECT_GT(windows.childOf(*sheet)->height(), 555);
 }

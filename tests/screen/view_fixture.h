@@ -1,68 +1,67 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <memory>
 
 #include <QApplication>
-#include <QSignalSpy>
 #include <QTest>
 
 #include "screen/form_view.h"
-#include "tests/screen/application.h"
-#include "tests/screen/plain_form.h"
+#include "tests/screen/hands.h"
+#include "tests/screen/likeness.h"
 #include "tests/support/fakes.h"
-#include "tests/support/logged_dialogs.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/sample_form.h"
 
 namespace orvane::test {
 
-// The plain form in a window of its own, and a user who has a mouse and a keyboard.
-class ViewFixture : public ::testing::Test {
+// The sample form in a window of its own, and a user who has a mouse and a keyboard.
+class ViewFixture : public ::testing::Test, protected TestWorld<> {
  protected:
-  ViewFixture() {
-    form->Show();
-    PlainForm::layOut(window);
-    view = std::make_unique<FormView>(*form, window, door);
-    window.show();
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-    window.setFocus();
-    form->events();
-  }
+  using Deed = std::function<void()>;
+  // What the user or the code does, and the events that it gives.
+  struct Step {
+    Deed deed;
+    std::string events;
+  };
 
-  template <class Widget>
+  ViewFixture();
+
+  template <class Widget = QWidget>
   Widget& find(const char* name) {
     auto* widget = window.findChild<Widget*>(name);
     EXPECT_TRUE(widget) << name;
     return *widget;
   }
-  // One turn of the event loop, in which what has changed is shown.
-  static void turn() { QCoreApplication::processEvents(); }
-  std::string eventsAfter(const std::function<void()>& act) {
-    form->events();
-    act();
+  std::string events() { return std::exchange(log, {}); }
+  std::string eventsAfter(const Deed& deed) {
+    events();
+    deed();
     turn();
-    return form->events();
+    return events();
   }
-  static void click(QWidget& widget, QPoint where = {}) {
-    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, where);
+  // One after another. Each leaves every widget showing what its control holds.
+  void play(const std::vector<Step>& steps);
+
+  // Steps.
+  Deed clicked(const char* name) {
+    return [this, name] { click(find(name)); };
+  }
+  // At the focus where no widget is named.
+  Deed pressed(Qt::Key key, const char* name = nullptr, Qt::KeyboardModifiers modifiers = {}) {
+    return [this, key, name, modifiers] {
+      QTest::keyClick(name ? &find(name) : QApplication::focusWidget(), key, modifiers);
+    };
+  }
+  Deed typed(const char* name, const char* text) {
+    return [this, name, text] { QTest::keyClicks(&find(name), text); };
+  }
+  Deed nothing() {
+    return [] {};
   }
 
- private:
-  struct Application {
-    Application() { needApplication(); }
-  };
-  Application application_;
-
- protected:
-  LoggedDialogs dialogs;
-  FakeClock clock;
-  NoSettings settings;
-  MemoryFiles files;
-  BlankPictures pictures;
-  Desktop desktop{World{dialogs, clock, settings, files, pictures}};
+  std::string log;
+  Desktop desktop{world()};
   ScreenDoor door{desktop};
-  std::shared_ptr<PlainForm> form = std::make_shared<PlainForm>(desktop);
+  std::shared_ptr<Sample> form = std::make_shared<Sample>(desktop, log);
   QWidget window;
   std::unique_ptr<FormView> view;
 };

@@ -2,17 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QInputMethodEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
@@ -23,26 +17,11 @@
 #include "surface/list_view.h"
 #include "surface/menu_item.h"
 #include "surface/tab_control.h"
+#include "tests/screen/hands.h"
+#include "tests/screen/likeness.h"
 
 namespace orvane::test {
 namespace {
-
-void turn() {
-  QCoreApplication::processEvents();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void press(QWidget& widget, QPoint where) { QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, where); }
-
-// Replaces the whole text at once, as pasting and input methods do: key by key would change it once for each.
-void replaceText(QWidget& widget, const QString& text) {
-  widget.setFocus(Qt::MouseFocusReason);
-  QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
-  if (text.isEmpty()) return QTest::keyClick(&widget, Qt::Key_Delete);
-  QInputMethodEvent typed;
-  typed.setCommitString(text);
-  QApplication::sendEvent(&widget, &typed);
-}
 
 int position(EntryList& list, const Entry& entry) {
   return entryPosition(list, entry, 0, list.ListCount(), [&](int i) { return list.List(i); });
@@ -56,34 +35,6 @@ int position(ListView& list, const Entry& row) {
   return entryPosition(list, row, 1, list.Count(), [&](int i) { return list.ListItems(i)->Text(); }) - 1;
 }
 
-QRect shownRow(QTreeWidget& tree, int row) {
-  tree.scrollToItem(tree.topLevelItem(row));
-  return tree.visualItemRect(tree.topLevelItem(row));
-}
-
-// Beside the box that is checked.
-QPoint nameAt(QTreeWidget& tree, int row) {
-  const QRect shown = shownRow(tree, row);
-  return {shown.left() + 40, shown.center().y()};
-}
-
-QPoint checkBoxAt(QTreeWidget& tree, int row) {
-  const QRect shown = shownRow(tree, row);
-  return {shown.left() + 10, shown.center().y()};
-}
-
-QPoint feelingPoint(const QWidget& widget) {
-  // Option buttons and check boxes do not feel the mouse beside their caption.
-  return {8, widget.height() / 2};
-}
-
-void choose(QComboBox& combo, int index) {
-  combo.setFocus(Qt::MouseFocusReason);
-  combo.showPopup();
-  combo.view()->setCurrentIndex(combo.model()->index(index, 0));
-  QTest::keyClick(combo.view(), Qt::Key_Return);
-}
-
 }  // namespace
 
 WidgetUser::WidgetUser(Desktop& desktop, ScreenDialogs& dialogs) : User(desktop), desktop_(desktop), windows_(desktop) {
@@ -93,9 +44,12 @@ WidgetUser::WidgetUser(Desktop& desktop, ScreenDialogs& dialogs) : User(desktop)
 WidgetUser::~WidgetUser() { turn(); }
 
 QWidget* WidgetUser::windowOf(const Form& form) const {
-  if (form.role() == Form::Role::Frame) return windows_.mainWindow();
-  if (QWidget* child = windows_.childOf(form)) return child;
-  return windows_.dialogOf(form);
+  return form.role() == Form::Role::Frame ? windows_.mainWindow() : test::windowOf(windows_, form);
+}
+
+void WidgetUser::look() {
+  turn();
+  EXPECT_EQ(unlike(desktop_, windows_), "");
 }
 
 void WidgetUser::settle(Form& form) {
@@ -132,10 +86,9 @@ void WidgetUser::click(Control& control) {
   if (control.kind() == "menu") {
     windows_.mainWindow()->findChild<QAction*>(toQt(control.Name()))->trigger();
   } else {
-    auto& shown = widget<QWidget>(control);
-    press(shown, feelingPoint(shown));
+    test::click(widget<QWidget>(control));
   }
-  turn();
+  look();
 }
 
 void WidgetUser::type(Control& control, std::string text) {
@@ -143,7 +96,7 @@ void WidgetUser::type(Control& control, std::string text) {
   control.prepareType(text);
   auto* combo = qobject_cast<QComboBox*>(&widget<QWidget>(control));
   replaceText(combo ? *combo->lineEdit() : widget<QWidget>(control), shownLines(text));
-  turn();
+  look();
 }
 
 void WidgetUser::pick(Control& control, const Entry& entry) {
@@ -152,45 +105,38 @@ void WidgetUser::pick(Control& control, const Entry& entry) {
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
     choose(widget<QComboBox>(control), position(*combo, entry));
   } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
-    auto& shown = widget<QListWidget>(control);
-    auto* item = shown.item(position(*list, entry));
-    shown.scrollToItem(item);
-    press(*shown.viewport(), shown.visualItemRect(item).center());
+    clickEntry(widget<QListWidget>(control), position(*list, entry));
   } else if (auto* tabs = dynamic_cast<TabControl*>(&control)) {
-    QTabBar& bar = *widget<QTabWidget>(control).tabBar();
-    press(bar, bar.tabRect(position(*tabs, entry)).center());
+    clickTab(widget<QTabWidget>(control), position(*tabs, entry));
   }
-  turn();
+  look();
 }
 
 void WidgetUser::row(Control& control, const Entry& row) {
   check(control);
   control.prepareRow(row);
-  auto& tree = widget<QTreeWidget>(control);
-  press(*tree.viewport(), nameAt(tree, position(static_cast<ListView&>(control), row)));
-  turn();
+  clickRow(widget<QTreeWidget>(control), position(static_cast<ListView&>(control), row));
+  look();
 }
 
 void WidgetUser::toggle(Control& control, const Entry& row) {
   check(control);
   control.prepareToggle(row);
-  auto& tree = widget<QTreeWidget>(control);
-  press(*tree.viewport(), checkBoxAt(tree, position(static_cast<ListView&>(control), row)));
-  turn();
+  clickCheckBox(widget<QTreeWidget>(control), position(static_cast<ListView&>(control), row));
+  look();
 }
 
 void WidgetUser::edit(Control& control, const Entry& row, std::string text) {
   check(control);
   control.prepareEdit(row, text);
   auto& tree = widget<QTreeWidget>(control);
-  const QPoint name = nameAt(tree, position(static_cast<ListView&>(control), row));
-  press(*tree.viewport(), name);
-  QTest::mouseDClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, name);
+  doubleClickRow(tree, position(static_cast<ListView&>(control), row));
   if (auto* editor = tree.viewport()->findChild<QLineEdit*>()) {
     replaceText(*editor, shownLines(text));
     QTest::keyClick(editor, Qt::Key_Return);
+    turn();  // the editor hands its text on in a turn of its own
   }
-  turn();
+  look();
 }
 
 void WidgetUser::scroll(Control& control, int value) {
@@ -199,7 +145,7 @@ void WidgetUser::scroll(Control& control, int value) {
   auto& bar = widget<QScrollBar>(control);
   bar.setFocus(Qt::MouseFocusReason);
   bar.setValue(value);
-  turn();
+  look();
 }
 
 void WidgetUser::focus(Control& control) {
@@ -211,7 +157,7 @@ void WidgetUser::focus(Control& control) {
   shown.clearFocus();
   shown.setFocus(Qt::TabFocusReason);
   EXPECT_TRUE(shown.hasFocus()) << control.id();
-  turn();
+  look();
 }
 
 void WidgetUser::activate(Form& form) {
@@ -219,14 +165,14 @@ void WidgetUser::activate(Form& form) {
   if (form.role() != Form::Role::Child) return User::activate(form);
   settle(form);
   windows_.mainWindow()->area().setActiveSubWindow(windows_.childOf(form));
-  turn();
+  look();
 }
 
 void WidgetUser::close(Form& form) {
   requireOpen(form);
   settle(form);
   windowOf(form)->close();
-  turn();
+  look();
 }
 
 }  // namespace orvane::test

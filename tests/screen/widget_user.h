@@ -31,6 +31,8 @@ class WidgetUser : public User {
   void check(Control& control);
   // Lets the screen catch up, and gives the keyboard to the window of the form.
   void settle(Form& form);
+  // Lets the screen catch up, and compares all of it with the forms.
+  void look();
   QWidget* windowOf(const Form& form) const;
   template <class Widget>
   Widget& widget(Control& control);

@@ -8,7 +8,7 @@
 #include "sheet/recovery.h"
 #include "sheet/sheet_files.h"
 #include "tests/sheet/faulty_files.h"
-#include "tests/support/logged_dialogs.h"
+#include "tests/support/fakes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace orvane::test {

@@ -1,20 +1,19 @@
-#include "tests/sheet/sheet_fixture.h"
+#include "tests/sheet/sheet_run.h"
 
 namespace orvane::test {
 namespace {
 
 using Viewer = SheetRun;
 
-TEST_F(Viewer, LaysItsControlsOutInCentimetres) {
+// The script that shows a sheet has the rest.
+TEST_F(Viewer, PutsItsBarsAtTheEdgesOfTheRoom) {
   const auto sheet = blankSheet();
-  EXPECT_NEAR(sheet->pctController.Width(), 18.097, 0.001);
-  EXPECT_NEAR(sheet->pctController.Height(), 1, 1e-5);
-  EXPECT_NEAR(sheet->pctMesure.Width(), 17.648, 0.001);
-  EXPECT_NEAR(sheet->pctMesure.Height(), 14.235, 0.001);
+  EXPECT_EQ(sheet->HScroll.Left(), 0);
   EXPECT_EQ(sheet->HScroll.Top(), sheet->pctMesure.Height());
+  EXPECT_EQ(sheet->HScroll.Width(), sheet->pctMesure.Width());
   EXPECT_EQ(sheet->VScroll.Left(), sheet->pctMesure.Width());
+  EXPECT_EQ(sheet->VScroll.Top(), 1);
   EXPECT_NEAR(sheet->VScroll.Height(), 13.235, 0.001);
-  EXPECT_NEAR(sheet->pctRecto.Height(), 27.199, 0.001);
 }
 
 TEST_F(Viewer, TheBarsMoveTheSideThatIsShown) {
@@ -53,15 +52,13 @@ TEST_F(Viewer, RoundsTheMaximumToTheNearestCentimetre) {
 TEST_F(Viewer, TheCurrentSheetIsTheOneActivatedLast) {
   const auto first = blankSheet();
   const auto second = blankSheet();
-  EXPECT_EQ(globals.frmCurrentFeuille, second.get());
-  desktop.activate(*first);
-  EXPECT_EQ(globals.frmCurrentFeuille, first.get());
-  desktop.activate(*perso);
   user.activate(*first);
+  EXPECT_EQ(globals().frmCurrentFeuille, first.get());
+  user.activate(*perso);
   user.click(first->cmdClose);
-  EXPECT_EQ(globals.frmCurrentFeuille, second.get());
-  desktop.perform([&] { second->Unload(); });
-  EXPECT_EQ(globals.frmCurrentFeuille, nullptr);
+  EXPECT_EQ(globals().frmCurrentFeuille, second.get());
+  user.close(*second);
+  EXPECT_EQ(globals().frmCurrentFeuille, nullptr);
 }
 
 }  // namespace

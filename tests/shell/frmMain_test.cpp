@@ -1,64 +1,18 @@
-#include "shell/frmMain.h"
-
 #include <array>
-#include <gtest/gtest.h>
-#include <map>
 
-#include "editor/frmPersonnage.h"
 #include "shell/FrmReadMe.h"
-#include "shell/main_procedure.h"
-#include "surface/user.h"
-#include "tests/support/fakes.h"
-#include "tests/support/game_files.h"
-#include "tests/support/logged_dialogs.h"
-#include "tests/support/windows_1252.h"
+#include "tests/support/test_run.h"
 
 namespace orvane::test {
 namespace {
 
-using Log = std::vector<std::string>;
-
-// By "APPLICATION/SECTION/KEY".
-class MemorySettings : public Settings {
- public:
-  std::map<std::string, std::string> values;
-
-  std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
-                         const std::string& defaultValue) override {
-    const auto found = values.find(application + "/" + section + "/" + key);
-    return found == values.end() ? defaultValue : found->second;
-  }
-  void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                   const std::string& value) override {
-    values[application + "/" + section + "/" + key] = value;
-  }
-};
-
-class FrameTest : public ::testing::Test {
+class FrameTest : public TestRun<> {
  protected:
-  void start() {
-    run.Main();
-    dialogs.log.clear();
-  }
   frmMain& frame() { return *run.mainWindow(); }
-  Globals& globals() { return run.globals(); }
-  // Opens a character window by the menu; gives the active child.
-  frmPersonnage* newCharacter() {
-    user.click(frame().mnuFileNewPJ);
-    return dynamic_cast<frmPersonnage*>(run.desktop().activeChild());
-  }
   FrmReadMe& openHelp() {
     user.click(frame().mnuHelpContents);
     return dynamic_cast<FrmReadMe&>(*run.desktop().activeChild());
   }
-
-  LoggedDialogs dialogs;
-  FakeClock clock;
-  MemorySettings settings;
-  MemoryFiles files = gameFiles();
-  BlankPictures pictures;
-  orvane::Run run{World{dialogs, clock, settings, files, pictures}};
-  User user{run.desktop()};
 };
 
 TEST_F(FrameTest, TheCurrentWindowIsTheActiveOneAfterAnotherCloses) {
@@ -79,16 +33,16 @@ TEST_F(FrameTest, TheCurrentWindowIsTheActiveOneAfterAnotherCloses) {
 
 TEST_F(FrameTest, OpensNoWindowThatCouldNotBeFilled) {
   const std::string impossible = "16|Tessaly|Pas de nouveau personnage possible : ";
-  const std::string base = "Nom;\r\nAssermenté;False;Socle.;14;\r\n";
+  const std::string base = "Nom;\nAsserment\xE9;False;;14;\n";
   // The first profile has two codes for the vehicle: its window closes itself.
-  const std::string faulty = base + "Double;True;Faux.;101;101;\r\nBon;True;Juste.;14;\r\n";
+  const std::string faulty = base + "Double;True;Faux.;101;101;\nBon;True;Juste.;14;\n";
   for (const auto& [path, text, box] : std::vector<std::array<std::string, 3>>{
            {"./profil.txt", faulty, "16|Tessaly|Code 101 plusieurs fois dans le profil !"},
            {"./profil.txt", base, impossible + "aucun profil utilisable n'a été lu dans profil.txt."},
-           {"./ethnie.txt", "Nom;\r\n", impossible + "aucune ethnie n'a été lue dans ethnie.txt."}}) {
-    files = gameFiles();
-    files.contents[path] = ansi(text);
-    orvane::Run other{World{dialogs, clock, settings, files, pictures}};
+           {"./ethnie.txt", "Nom;\n", impossible + "aucune ethnie n'a été lue dans ethnie.txt."}}) {
+    files = filesOf();
+    files.contents[path] = text;
+    orvane::Run other(world());
     other.Main();
     dialogs.log.clear();
     User(other.desktop()).click(other.mainWindow()->mnuFileNewPJ);

@@ -5,12 +5,9 @@
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "tests/support/fakes.h"
-#include "tests/support/memory_files.h"
 
 namespace orvane::test {
 namespace {
-
-using Log = std::vector<std::string>;
 
 // Writes down everything that reaches the outside world, in one list.
 class StartTest : public ::testing::Test, protected Dialogs, Clock, Settings, DesktopObserver {

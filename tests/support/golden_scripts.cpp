@@ -1,15 +1,11 @@
 #include "tests/support/golden_scripts.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <sstream>
 #include <unistd.h>
 
-#include "tests/support/game_files.h"
-#include "tests/support/source_folder.h"
+#include "tests/support/approved.h"
 
 namespace orvane::test {
 namespace {
@@ -17,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path source = sourceFolder();
-
 const fs::path scripts = source / "tests/scripts";
 
 void addScripts(std::vector<GoldenScript>& found, const fs::path& folder, const fs::path& expected) {
@@ -89,15 +84,6 @@ std::string goldenText(const GoldenOutput& output, const ScratchFolder& folder) 
   if (!output.errors.empty()) text += "--- standard error\n" + output.errors;
   if (const std::string files = folder.newFiles(); !files.empty()) text += "--- files\n" + files;
   return text + "--- exit status " + std::to_string(output.status) + "\n";
-}
-
-void expectGolden(const GoldenScript& script, const std::string& text) {
-  if (std::getenv("ORVANE_REBASELINE")) {
-    fs::create_directories(script.expected.parent_path());
-    std::ofstream(script.expected, std::ios::binary) << text;
-    return;
-  }
-  EXPECT_EQ(bytesOf(script.expected), text) << script.script;
 }
 
 }  // namespace orvane::test

@@ -50,7 +50,4 @@ class ScratchFolder {
 // Everything about a playing, as an expected file holds it.
 std::string goldenText(const GoldenOutput& output, const ScratchFolder& folder);
 
-// Compares with the expected file, or rewrites it where the environment variable ORVANE_REBASELINE is set.
-void expectGolden(const GoldenScript& script, const std::string& text);
-
 }  // namespace orvane::test

@@ -6,117 +6,113 @@ namespace {
 // What a user does: the focus first, then the act.
 class Acts : public Surface {
  protected:
-  Acts() { noted(); }
   Sample& form = open();
 };
 
-TEST_F(Acts, LostFocusRunsBeforeTheNextClick) {
-  user.type(form.text, "nom");
-  user.click(form.button);
-  user.click(form.button);
-  user.click(form.front(1));
-  user.click(form.label);
-  EXPECT_EQ(form.focused(), &form.front(1)) << "a label takes no focus";
-  EXPECT_EQ(noted(), (Log{"text.GotFocus", "text.Change", "text.LostFocus", "button.GotFocus", "button.Click",
-                          "button.Click", "button.LostFocus", "front(1).GotFocus", "front(1).Click", "label.Click"}));
+TEST_F(Acts, MoveTheFocusFirstAndTellAlsoOfWhatIsSelectedAlready) {
+  form.names.AddItem("Zoé");
+  form.bar.setMax(3);
+  const std::pair<std::function<void()>, std::string> acts[]{
+      {[&] { user.type(form.text, "nom"); }, "+text text=nom"},
+      {[&] { user.type(form.text, "nom"); }, ""},
+      {[&] { user.click(form.button); }, "-text +button button"},
+      {[&] { user.click(form.button); }, "button"},
+      {[&] { user.focus(form.front(0)); }, "-button +front(0)"},
+      {[&] { user.click(form.front(0)); }, "front(0)"},
+      {[&] { user.click(form.front(0)); }, ""},
+      {[&] { user.click(form.label); }, "label"},
+      {[&] { user.click(form.check); }, "-front(0) +check check:1"},
+      {[&] { user.click(form.check); }, "check:0"},
+      {[&] { user.pick(form.list, "deux"); }, "-check +list list:deux"},
+      {[&] { user.pick(form.list, 1); }, "list:deux"},
+      {[&] { user.pick(form.names, 0); }, "-list +names names:Zoé"},
+      {[&] { user.pick(form.names, "Zoé"); }, "names:Zoé"},
+      {[&] { user.scroll(form.bar, 3); }, "-names +bar bar=3"},
+      {[&] { user.scroll(form.bar, 3); }, ""},
+      {[&] { user.pick(form.tabs, "une"); }, "-bar +tabs tabs:0>1"},
+      {[&] { user.pick(form.tabs, 1); }, "tabs:1>1"},
+      // The text of an entry selects it.
+      {[&] { user.type(form.combo, "Ailleurs"); }, "-tabs +combo combo=Ailleurs"},
+      {[&] { user.type(form.combo, "Docks"); }, "combo=Docks"},
+      {[&] { user.type(form.combo, "Docks"); }, ""},
+      {[&] { user.type(form.combo, ""); }, "combo="},
+      {[&] { user.pick(form.combo, 0); }, "combo:Port"},
+  };
+  events();
+  std::string indexes;
+  for (const auto& [act, expected] : acts) {
+    EXPECT_EQ(eventsAfter(act), expected);
+    indexes += std::to_string(form.combo.ListIndex()) + " ";
+  }
+  EXPECT_TRUE(indexes.ends_with(" -1 1 1 -1 0 ")) << indexes;
+  EXPECT_EQ(form.focused(), &form.combo);
 }
 
 TEST_F(Acts, EachWindowKeepsItsFocus) {
   Sample& second = open("B");
   user.focus(form.text);
   user.focus(second.button);
-  noted();
-  user.focus(form.text);
-  user.focus(second.button);
-  EXPECT_EQ(noted(), (Log{"Form_Activate", "B: Form_Activate"}));
-}
-
-TEST_F(Acts, AnOptionTellsOnlyWhenItBecomesSelected) {
-  user.focus(form.front(0));
-  EXPECT_FALSE(form.front(0).Value());
-  for (int i = 0; i < 2; ++i) user.click(form.front(0));
-  for (int i = 0; i < 2; ++i) user.click(form.check);
-  EXPECT_EQ(noted(), (Log{"front(0).GotFocus", "front(0).Click", "front(0).LostFocus", "check.GotFocus", "check.Click",
-                          "check.Click"}));
-  EXPECT_EQ(form.check.Value(), 0);
-}
-
-TEST_F(Acts, APickTellsAlsoOfTheSelectedEntry) {
-  user.pick(form.list, "deux");
-  user.pick(form.list, 1);
-  user.pick(form.tabs, "une");
-  user.pick(form.tabs, 1);
-  form.names.AddItem("Zoé");
-  user.pick(form.names, 0);
-  user.pick(form.names, "Zoé");
-  EXPECT_EQ(noted(),
-            (Log{"list.GotFocus", "list.Click", "list.Click", "list.LostFocus", "tabs.GotFocus", "tabs.Click(0)",
-                 "tabs.Click(1)", "tabs.LostFocus", "names.GotFocus", "names.Click", "names.Click"}));
-}
-
-TEST_F(Acts, TypedComboText) {
-  std::string chosen;
-  for (const char* text : {"Ailleurs", "Docks", "Docks", ""}) {
-    user.type(form.combo, text);
-    chosen += form.combo.Text() + " " + std::to_string(form.combo.ListIndex()) + ";";
-  }
-  EXPECT_EQ(chosen, "Ailleurs -1;Docks 1;Docks 1; -1;") << "the text of an entry selects it";
-  EXPECT_EQ(noted(), (Log{"combo.GotFocus", "combo.Change", "combo.Change", "combo.Change"}));
+  EXPECT_EQ(eventsAfter([&] {
+              user.focus(form.text);
+              user.focus(second.button);
+            }),
+            "active B/active");
 }
 
 TEST_F(Acts, WhatAUserCannotDoIsRefusedAndChangesNothing) {
-  form.rows.Add();
+  form.addRow("un");
   form.bar.setMax(5);
   form.other.setEnabled(false);
   form.check.setVisible(false);
   form.tabs.setTabEnabled(1, false);
   form.tabs.setTabVisible(2, false);
   user.type(form.text, "nom");
-  noted();
-
-  const std::vector<std::pair<const char*, std::function<void()>>> acts{
-      {"disabled", [&] { user.click(form.other); }},
-      {"hidden", [&] { user.click(form.check); }},
-      {"on another tab", [&] { user.click(form.back(0)); }},
-      {"read-only", [&] { user.type(form.locked, "x"); }},
-      {"no such entry", [&] { user.pick(form.list, "cinq"); }},
-      {"position before the start", [&] { user.pick(form.names, -1); }},
-      {"disabled tab", [&] { user.pick(form.tabs, 1); }},
-      {"hidden tab", [&] { user.pick(form.tabs, "deux"); }},
-      {"row 0", [&] { user.row(form.rows, 0); }},
-      {"scrolled too far", [&] { user.scroll(form.bar, 6); }},
-      {"wrong kind", [&] { user.click(form.text); }},
-      {"no focus for a label", [&] { user.focus(form.label); }},
-      {"inside a disabled frame", [&] { user.type(form.deep, "b"); }},
-  };
   form.frame.setEnabled(false);
-  for (const auto& [what, act] : acts) {
-    EXPECT_NE(refusal(act), "") << what;
-    EXPECT_EQ(form.focused(), &form.text) << what;
+  events();
+  const std::pair<std::function<void()>, std::string> acts[]{
+      {[&] { user.click(form.other); }, "other est désactivé."},
+      {[&] { user.click(form.check); }, "check est caché."},
+      {[&] { user.click(form.back(0)); }, "back(0) se trouve sur l'onglet « une », qui n'est pas affiché."},
+      {[&] { user.type(form.deep, "b"); }, "frame est désactivé."},
+      {[&] { user.type(form.locked, "x"); }, "locked est en lecture seule."},
+      {[&] { user.type(form.list, "x"); }, "list (liste déroulante) : taper un texte n'y est pas possible."},
+      {[&] { user.pick(form.list, "cinq"); }, "Pas d'entrée « cinq » dans list."},
+      {[&] { user.pick(form.list, 3); }, "Pas d'entrée 3 dans list."},
+      {[&] { user.pick(form.names, -1); }, "Pas d'entrée -1 dans names."},
+      {[&] { user.pick(form.tabs, 1); }, "L'onglet « une » est fermé."},
+      {[&] { user.pick(form.tabs, "deux"); }, "L'onglet « deux » est fermé."},
+      {[&] { user.row(form.rows, 0); }, "Pas d'entrée 0 dans rows."},
+      {[&] { user.toggle(form.rows, 2); }, "Pas d'entrée 2 dans rows."},
+      {[&] { user.edit(form.rows, "x", ""); }, "Pas d'entrée « x » dans rows."},
+      {[&] { user.scroll(form.bar, 6); }, "bar va de 0 à 5, pas jusqu'à 6."},
+      {[&] { user.scroll(form.bar, -1); }, "bar va de 0 à 5, pas jusqu'à -1."},
+      {[&] { user.click(form.text); }, "text (zone de texte) : cliquer n'y est pas possible."},
+      {[&] { user.focus(form.label); }, "label ne prend pas le focus."},
+  };
+  for (const auto& [act, reason] : acts) {
+    EXPECT_EQ(refusal(act), reason);
+    EXPECT_EQ(form.focused(), &form.text) << reason;
   }
+  EXPECT_EQ(events(), "");
   form.frame.setEnabled(true);
   form.tabs.setTab(1);
-  EXPECT_NE(refusal(acts.back().second), "") << "inside a frame on another tab";
-  EXPECT_EQ(noted(), Log{"tabs.Click(0)"});
+  EXPECT_EQ(refusal(acts[3].first), "frame se trouve sur l'onglet « zéro », qui n'est pas affiché.");
 }
 
 TEST_F(Acts, NoActWhereTheLostFocusTookTheControlAway) {
   user.focus(form.text);
-  form.on["text.LostFocus"] = [](Sample& own) { own.button.setEnabled(false); };
-  noted();
-  user.click(form.button);
-  EXPECT_EQ(noted(), (Log{"text.LostFocus", "button.GotFocus"}));
+  form.on["-text"] = [](Sample& own) { own.button.setEnabled(false); };
+  EXPECT_EQ(eventsAfter([&] { user.click(form.button); }), "-text +button");
 }
 
 TEST_F(Acts, AFailureIsToldAndTheRunGoesOn) {
-  form.on["list.Click"] = [](Sample&) { throw Failure("sans suite"); };
-  form.on["button.Click"] = [](Sample& own) { own.list.setListIndex(2); };
+  form.on["list:trois"] = [](Sample&) { throw Failure("sans suite"); };
+  form.on["button"] = [](Sample& own) { own.list.setListIndex(2); };
   user.click(form.button);
   EXPECT_EQ(told(), Log{"failure|sans suite"}) << "once, however deep the handlers nest";
-  form.on.clear();
-  noted();
-  user.click(form.button);
-  EXPECT_EQ(noted(), Log{"button.Click"});
+  form.on = {{"-button", [](Sample&) { throw std::runtime_error("panne"); }}};
+  EXPECT_EQ(eventsAfter([&] { user.click(form.other); }), "-button +other other");
+  EXPECT_EQ(told(), Log{"failure|Erreur interne."});
 }
 
 }  // namespace

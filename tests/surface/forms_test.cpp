@@ -11,13 +11,13 @@ TEST_F(Forms, ClosingGivesTheWindowBeforeItBack) {
   Sample& a = open("A");
   open("B");
   Sample& c = open("C");
-  noted();
-  for (int i = 0; i < 2; ++i) user.activate(a);
-  user.close(a);
-  user.close(c);
-  EXPECT_EQ(openForms(), Log{"B"});
-  EXPECT_EQ(noted(), (Log{"A: Form_Activate", "A: Form_Unload", "C: Form_Activate", "A: freed", "C: Form_Unload",
-                          "B: Form_Activate", "C: freed"}));
+  EXPECT_EQ(eventsAfter([&] {
+              for (int i = 0; i < 2; ++i) user.activate(a);
+              user.close(a);
+              user.close(c);
+            }),
+            "A/active A/end C/active A/freed C/end B/active C/freed");
+  EXPECT_EQ(openForms(), "B ");
 }
 
 TEST_F(Forms, ClosingTheFrameClosesAllWindowsFirst) {
@@ -25,70 +25,56 @@ TEST_F(Forms, ClosingTheFrameClosesAllWindowsFirst) {
   Sample& a = open("A");
   open("B");
   user.activate(a);
-  noted();
-  user.close(frame);
-  EXPECT_EQ(openForms(), Log{});
-  EXPECT_EQ(noted(),
-            (Log{"A: Form_Unload", "B: Form_Unload", "cadre: Form_Unload", "A: freed", "B: freed", "cadre: freed"}))
+  EXPECT_NE(refusal([&] { user.activate(frame); }), "");
+  EXPECT_EQ(eventsAfter([&] { user.close(frame); }), "A/end B/end cadre/end A/freed B/freed cadre/freed")
       << "none is activated on the way";
+  EXPECT_EQ(openForms(), "");
 }
 
-TEST_F(Forms, AHandlerMayCloseItsOwnWindow) {
-  Sample& form = open();
-  form.on["text.Change"] = [](Sample& own) {
-    own.Unload();
-    own.button.setEnabled(false);
-    own.list.setListIndex(2);
+// A closed window runs no handlers.
+TEST_F(Forms, HandlersMayCloseTheirOwnWindow) {
+  const auto closeAndGoOn = [](Sample& form) {
+    form.Unload();
+    form.button.setEnabled(false);
+    form.list.setListIndex(2);
   };
-  noted();
-  user.type(form.text, "fin");
-  EXPECT_EQ(noted(), (Log{"text.GotFocus", "text.Change", "Form_Unload", "freed"}))
-      << "a closed window runs no handlers";
-}
-
-TEST_F(Forms, LosingTheFocusMayCloseTheWindow) {
-  Sample& form = open();
-  user.focus(form.text);
-  form.on["text.LostFocus"] = close;
-  noted();
-  user.click(form.button);
-  EXPECT_EQ(noted(), (Log{"text.LostFocus", "Form_Unload", "freed"}));
-}
-
-TEST_F(Forms, LoadingMayCloseTheWindow) {
+  Sample& typed = open("", Form::Role::Child, {{"text=fin", closeAndGoOn}});
+  EXPECT_EQ(eventsAfter([&] { user.type(typed.text, "fin"); }), "+text text=fin end freed");
+  Sample& left = open("", Form::Role::Child, {{"-text", close}});
+  user.focus(left.text);
+  EXPECT_EQ(eventsAfter([&] { user.click(left.button); }), "-text end freed");
   const auto load = [](Sample& form) {
     form.list.setListIndex(1);
     form.text.setText("ensuite");
   };
-  open("", Form::Role::Child, {{"Form_Load", load}, {"list.Click", close}});
-  EXPECT_EQ(noted(), (Log{"Form_Load", "list.Click", "Form_Unload", "freed"})) << "it is never shown";
-  EXPECT_EQ(openForms(), Log{});
+  EXPECT_EQ(eventsAfter([&] {
+              open("", Form::Role::Child, {{"load", load}, {"list:deux", close}});
+            }),
+            "load list:deux end freed")
+      << "it is never shown";
+  EXPECT_EQ(eventsAfter([&] { open("", Form::Role::Child, {{"active", close}}); }), "load active end freed");
+  EXPECT_EQ(openForms(), "");
   EXPECT_EQ(told(), Log{});
 }
 
 TEST_F(Forms, AFailedLoadLeavesNoFormBehind) {
   open("A");
-  noted();
-  open("B", Form::Role::Child, {{"Form_Load", [](Sample& form) { form.list.setListIndex(9); }}});
+  const auto fail = [](Sample& form) { form.list.setListIndex(9); };
+  EXPECT_EQ(eventsAfter([&] { open("B", Form::Role::Child, {{"load", fail}}); }), "B/load B/freed");
   EXPECT_EQ(told(), Log{"failure|Pas d'entrée 9 dans list."});
-  EXPECT_EQ(noted(), (Log{"B: Form_Load", "B: freed"}));
-  EXPECT_EQ(openForms(), Log{"A"});
+  EXPECT_EQ(openForms(), "A ");
 }
 
 TEST_F(Forms, ClosingIsDoneOnceWhateverTheEndAsksFor) {
-  Sample& a = open("A", Form::Role::Child, {{"Form_Unload", close}});
-  Sample& b = open("B", Form::Role::Child, {{"Form_Unload", [](Sample&) { throw Failure("perdu"); }}});
-  noted();
-  user.close(a);
-  user.close(b);
-  EXPECT_EQ(noted(), (Log{"A: Form_Unload", "A: freed", "B: Form_Unload", "B: freed"}));
+  Sample& a = open("A", Form::Role::Child, {{"end", close}});
+  Sample& b = open("B", Form::Role::Child, {{"end", [](Sample&) { throw Failure("perdu"); }}});
+  EXPECT_EQ(eventsAfter([&] {
+              user.close(a);
+              user.close(b);
+            }),
+            "A/end A/freed B/end B/freed");
   EXPECT_EQ(told(), Log{"failure|perdu"});
-  EXPECT_EQ(openForms(), Log{});
-}
-
-TEST_F(Forms, BeingActivatedMayCloseTheWindow) {
-  open("", Form::Role::Child, {{"Form_Activate", close}});
-  EXPECT_EQ(noted(), (Log{"Form_Load", "Form_Activate", "Form_Unload", "freed"}));
+  EXPECT_EQ(openForms(), "");
 }
 
 TEST_F(Forms, AModalFormBlocksAllOthersUntilItIsClosed) {
@@ -98,17 +84,14 @@ TEST_F(Forms, AModalFormBlocksAllOthersUntilItIsClosed) {
     refused.push_back(refusal([&] { user.click(a.button); }));
     refused.push_back(refusal([&] { user.close(a); }));
     user.click(static_cast<Sample&>(form).button);
-    log.push_back("answered");
   };
-  a.on["button.Click"] = [&](Sample&) {
+  a.on["button"] = [&](Sample& own) {
     make("D", Form::Role::Dialog)->ShowModal();
-    log.push_back("back");
+    own.list.setListIndex(1);
   };
-  noted();
-  user.click(a.button);
+  EXPECT_EQ(eventsAfter([&] { user.click(a.button); }),
+            "A/+button A/button D/load D/+button D/button D/end A/list:deux D/freed");
   EXPECT_EQ(refused, Log(2, "La fenêtre « D » attend d'abord une réponse."));
-  EXPECT_EQ(noted(), (Log{"A: button.GotFocus", "A: button.Click", "D: Form_Load", "D: button.GotFocus",
-                          "D: button.Click", "answered", "D: Form_Unload", "back", "D: freed"}));
   EXPECT_EQ(desktop.modal(), nullptr);
 }
 
@@ -116,7 +99,7 @@ TEST_F(Forms, AModalFormThatCannotBeRunBlocksNothing) {
   dialogs.modal = [](Form&) { throw Failure("pas d'écran"); };
   desktop.perform([&] { make("D", Form::Role::Dialog)->ShowModal(); });
   EXPECT_EQ(told(), Log{"failure|pas d'écran"});
-  EXPECT_EQ(openForms(), Log{});
+  EXPECT_EQ(openForms(), "");
   EXPECT_EQ(desktop.modal(), nullptr);
 }
 
@@ -127,26 +110,32 @@ TEST_F(Forms, ObserversHearWhatHappensToWindows) {
     void unloaded(Form& form) override { heard += "unloaded " + form.Caption() + ", "; }
     void activated(Form& form) override { heard += "activated " + form.Caption() + ", "; }
     void captionChanged(Form& form) override { heard += "caption " + form.Caption() + ", "; }
+    void refresh(Form& form) override { heard += "refresh " + form.Caption() + ", "; }
+    void arrange(Arrangement how) override { heard += "arrange " + std::to_string(static_cast<int>(how)) + ", "; }
   } listener;
   Sample& a = open("A");
   desktop.watch(listener);
   Sample& b = open("B");
   for (int i = 0; i < 2; ++i) b.setCaption("C");
+  b.Refresh();
+  desktop.Arrange(Arrangement::Icons);
   user.close(b);
   desktop.unwatch(listener);
   user.close(a);
-  EXPECT_EQ(listener.heard, "shown B, activated B, caption C, unloaded C, activated A, ");
+  EXPECT_EQ(listener.heard, "shown B, activated B, caption C, refresh C, arrange 3, unloaded C, activated A, ");
 }
 
 TEST_F(Forms, AClosedWindowTakesNoActs) {
   const auto form = make("A");
-  EXPECT_NE(refusal([&] { user.click(form->button); }), "") << "not yet open";
+  const std::string notOpen = "La fenêtre « A » n'est pas ouverte.";
+  EXPECT_EQ(refusal([&] { user.click(form->button); }), notOpen);
+  form->Load();
+  EXPECT_EQ(refusal([&] { user.click(form->button); }), notOpen) << "loaded, not shown";
   form->Show();
   form->Unload();
   form->Show();
   EXPECT_FALSE(form->isVisible());
-  EXPECT_NE(refusal([&] { user.click(form->button); }), "");
-  EXPECT_NE(refusal([&] { user.close(*form); }), "");
+  EXPECT_EQ(refusal([&] { user.close(*form); }), notOpen);
 }
 
 }  // namespace
