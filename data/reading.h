@@ -50,7 +50,7 @@ struct Fault {
 // A fault in a sentence for the player.
 std::string describe(const Fault& fault);
 
-// Told what the reader of the data files meets. All views end with the call.
+// Told what the reader of the data files meets. The names of files and members last, other views end with the call.
 class Reading {
  public:
   virtual ~Reading() = default;

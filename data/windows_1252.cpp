@@ -1,5 +1,6 @@
 #include "data/windows_1252.h"
 
+#include <algorithm>
 #include <array>
 
 #include "surface/text.h"
@@ -25,8 +26,19 @@ bool inWindows1252(char byte) { return byte == '\0' || codePoint(byte) != 0; }
 std::string fromWindows1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());
-  for (const char byte : bytes) appendUtf8(text, codePoint(byte));
+  for (const char byte : bytes)
+    if (static_cast<unsigned char>(byte) < 0x80)
+      text += byte;
+    else
+      appendUtf8(text, codePoint(byte));
   return text;
+}
+
+std::optional<char> toWindows1252(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
+  const auto found = std::find(upperControls.begin(), upperControls.end(), character);
+  if (found == upperControls.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (found - upperControls.begin()));
 }
 
 }  // namespace orvane

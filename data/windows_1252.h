@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,5 +12,8 @@ bool inWindows1252(char byte);
 
 // The bytes as UTF-8. Every byte must be in the code page.
 std::string fromWindows1252(std::string_view bytes);
+
+// The byte for a character; none where the code page lacks it.
+std::optional<char> toWindows1252(char32_t character);
 
 }  // namespace orvane

@@ -1,6 +1,6 @@
 #include "editor/frmPersonnage.h"
+#include "sheet/drawn_power.h"
 #include "sheet/frmFeuille.h"
-#include "sheet/prcPrintInShape.h"
 #include "sheet/sheet_files.h"
 #include "sheet/sheet_names.h"
 #include "surface/desktop.h"
@@ -12,13 +12,6 @@ namespace {
 
 frmPersonnage* characterOf(const frmFeuille& sheet) {
   return dynamic_cast<frmPersonnage*>(sheet.desktop().find("frmPersonnage", frmPersonnage::captionOf(sheet.Caption())));
-}
-
-// The first blank stands in front of the name of a power only behind a number of three digits; it fills up a shorter
-// one.
-std::string behindFirstBlank(const std::string& text) {
-  const auto blank = text.find(' ');
-  return blank == std::string::npos ? text : text.substr(blank + 1);
 }
 
 void tellFault(Desktop& desktop, const std::string& fault) {
@@ -86,12 +79,7 @@ void frmFeuille::printDrawnPower() {
   const auto* power = frmPerso->selectedPower();
   if (!power) return;
   drawnPowerPrinted_ = true;
-  const auto print = [this](std::string text, Shape& box) { prcPrintInShape(std::move(text), pctRecto, box); };
-  print(
-      frmPerso->cmbMutaCateg.Text() + frmPerso->cmbMutaSign.Text() + std::to_string(frmPerso->cmbMutaName.ListIndex()),
-      shpMutaCateg);
-  print(behindFirstBlank(frmPerso->cmbMutaName.Text()), shpMutaName);
-  print(power->sDescro, shpMutaDescro);
+  orvane::printDrawnPower(*this, *frmPerso, *power);
 }
 
 }  // namespace orvane

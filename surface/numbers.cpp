@@ -1,6 +1,7 @@
 #include "surface/numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -118,10 +119,9 @@ std::string numberText(double value) {
   if (!std::isfinite(value)) throw Failure("Un nombre est trop grand pour être écrit.");
   double whole = std::nearbyint(value);
   if (whole == 0) whole = 0;  // no "-0"
-  std::string text(400, '\0');
+  std::array<char, 400> text;
   const auto result = std::to_chars(text.data(), text.data() + text.size(), whole, std::chars_format::fixed, 0);
-  text.resize(static_cast<std::size_t>(result.ptr - text.data()));
-  return text;
+  return {text.data(), result.ptr};
 }
 
 }  // namespace orvane

@@ -76,6 +76,15 @@ void appendUtf8(std::string& text, char32_t character) {
   text.append(bytes, size);
 }
 
+std::optional<std::u32string> charactersOf(std::string_view text) {
+  const icu::UnicodeString source = unicode(text);
+  if (source.indexOf(u'\uFFFD') >= 0) return std::nullopt;
+  std::u32string characters;
+  for (int32_t i = 0; i < source.length(); i = source.moveIndex32(i, 1))
+    characters += static_cast<char32_t>(source.char32At(i));
+  return characters;
+}
+
 std::string sortKey(std::string_view text) {
   const icu::UnicodeString source = unicode(text);
   const auto& collator = frenchCollator();

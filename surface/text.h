@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,9 @@ std::string_view cutLine(std::string_view& rest);
 
 // Appends one character; U+FFFD in place of a surrogate or of what lies beyond Unicode.
 void appendUtf8(std::string& text, char32_t character);
+
+// The characters of a text; nothing for what is no UTF-8 or holds U+FFFD, which stands for that.
+std::optional<std::u32string> charactersOf(std::string_view text);
 
 // A text whose byte order is the French alphabetical order of the texts it was made from (É beside E).
 std::string sortKey(std::string_view text);

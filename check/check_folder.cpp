@@ -1,0 +1,19 @@
+#include "check/check_folder.h"
+
+#include "check/checks.h"
+
+namespace orvane {
+
+std::vector<Finding> checkFolder(const std::string& path, Pictures& pictures, bool withSheets) {
+  auto folder = readFolder(path);
+  checkContents(folder);
+  const auto offer = offerOf(folder.data, pictures);
+  checkSkills(folder, offer);
+  const auto profiles = checkProfiles(folder, offer, pictures);
+  checkPowers(folder, pictures);
+  checkMartialArts(folder);
+  if (withSheets) checkSheets(folder, profiles, pictures);
+  return folder.findings.sorted();
+}
+
+}  // namespace orvane

@@ -1,0 +1,37 @@
+#include "check/places.h"
+
+namespace orvane {
+
+void Places::field(const FieldText& text) {
+  if (text.file != file_) now_ = &files_[file_ = text.file];
+  auto& [records, cells, underWay, isBroken] = *now_;
+  if (text.position == 1) {
+    cells.resize(underWay.firstCell);  // a line before that was no record
+    underWay.line = text.line;
+    isBroken = false;
+  }
+  cells.push_back({text.field.member, text.column, !isBroken});
+}
+
+void Places::record() {
+  now_->records.push_back(now_->underWay);
+  now_->underWay.firstCell = now_->cells.size();
+}
+
+void Places::spoil(bool restOfLine) {
+  now_->cells.back().isSound = false;
+  now_->isBroken |= restOfLine;
+}
+
+DataPlace Places::of(std::string_view file, std::int32_t position, std::string_view member, std::int32_t nth) const {
+  const auto& [records, cells, underWay, isBroken] = files_.at(file);
+  const auto record = static_cast<std::size_t>(position);
+  const std::size_t end = record < records.size() ? records[record].firstCell : underWay.firstCell;
+  const auto line = records.at(record - 1).line;
+  for (std::size_t cell = records[record - 1].firstCell; cell < end; ++cell)
+    if (cells[cell].member == member && --nth == 0)
+      return {file, line, cells[cell].column, member, cells[cell].isSound};
+  return {file, line, 1, member, false};
+}
+
+}  // namespace orvane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <ostream>
+#include <vector>
+
+#include "check/finding.h"
+
+namespace orvane {
+
+enum class ReportFormat { Text, Json };
+
+// A finding a line. In texts, and for other programs, files are named by their path from the current directory.
+void report(const std::vector<Finding>& findings, const std::string& folder, ReportFormat format, std::ostream& out);
+
+}  // namespace orvane

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include "data/reference_data.h"
+
+namespace orvane {
+
+// Finds skills by the numbers of a profile's list.
+class SkillIndex {
+ public:
+  explicit SkillIndex(const ReferenceData& data);
+
+  // The positions of all skills with the key.
+  const std::vector<std::int32_t>& positionsOf(double key) const;
+
+ private:
+  std::unordered_map<std::int16_t, std::vector<std::int32_t>> positions_;
+};
+
+}  // namespace orvane
