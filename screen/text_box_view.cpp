@@ -9,6 +9,15 @@
 #include "screen/readable_colours.h"
 
 namespace orvane {
+namespace {
+
+// What toPlainText gives, but for no-break spaces, which it turns into blanks.
+QString linesIn(const QPlainTextEdit& edit) {
+  QString text = edit.document()->toRawText();
+  return text.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
+}
+
+}  // namespace
 
 LineEditView::LineEditView(TextBox& box, QLineEdit& edit, FormView& form)
     : View(box, edit, form), box_(box), edit_(edit) {
@@ -41,7 +50,7 @@ void MultiLineView::show() {
   showBoxColour(edit_, box_.BackColor());
   if (box_.readOnly()) edit_.setPalette(readingPalette(edit_.palette()));
   const QString text = shownLines(box_.Text());
-  if (edit_.toPlainText() == text) return;
+  if (linesIn(edit_) == text) return;
   const int position = edit_.textCursor().position();
   edit_.setPlainText(text);
   QTextCursor cursor = edit_.textCursor();
@@ -51,8 +60,9 @@ void MultiLineView::show() {
 
 void MultiLineView::typed() {
   // The document also reports changes of its formats.
-  if (edit_.toPlainText() == shownLines(box_.Text())) return;
-  act([this](User& user) { user.type(box_, typedLines(edit_.toPlainText())); });
+  const QString text = linesIn(edit_);
+  if (text == shownLines(box_.Text())) return;
+  act([&](User& user) { user.type(box_, typedLines(text)); });
 }
 
 }  // namespace orvane

@@ -73,7 +73,8 @@ class Comparison {
     colour(box.BackColor());
   }
   void lines(const TextBox& box, const QPlainTextEdit& edit) {
-    same("Text", edit.toPlainText(), shownLines(box.Text()));
+    // toPlainText would turn no-break spaces into blanks.
+    same("Text", edit.document()->toRawText().replace(QChar::ParagraphSeparator, '\n'), shownLines(box.Text()));
     same("read-only", edit.isReadOnly(), box.readOnly());
     colour(box.BackColor());
   }

@@ -18,8 +18,11 @@ class Texts {
     addSpoken(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&window)));
   }
 
+  // Whatever the widgets made of its blanks and line ends.
   bool hold(const QString& text) const {
-    return std::any_of(texts_.begin(), texts_.end(), [&](const auto& one) { return one.contains(text); });
+    const QString sought = text.simplified();
+    return std::any_of(texts_.begin(), texts_.end(),
+                       [&](const auto& one) { return one.simplified().contains(sought); });
   }
 
  private:

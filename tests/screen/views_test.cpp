@@ -43,6 +43,7 @@ TEST_F(Views, Texts) {
         {pressed(Qt::Key_Left, "lines"), ""},
         {typed("lines", "c"), "lines=a\r\ncb"},
         {[&] { EXPECT_EQ(find<QPlainTextEdit>("lines").textCursor().position(), 3); }, ""},
+        {[&] { find<QPlainTextEdit>("lines").insertPlainText(QChar(QChar::Nbsp)); }, "lines=a\r\nc\u00A0b"},
         {pressed(Qt::Key_Tab, "lines"), "-lines +list"},
         {[&] { form->lines.setText("un\r\n\r\ntrois"); }, "lines=un\r\n\r\ntrois"}});
 }
