@@ -92,11 +92,50 @@ TEST_F(Game, HasWhatTheRulesTakeForGranted) {
   for (const auto& profile : data.colProfil)
     for (const double key : profile->colSkillPro)
       EXPECT_EQ(keys.count(static_cast<std::int16_t>(key)), 1U) << profile->sName << ": " << key;
+}
+
+// The vehicle of the profiles is any of three skills.
+TEST_F(Game, EverySkillIsInSomeProfile) {
+  const auto& data = run.data();
+  std::set<double> used;
+  for (const int vehicle : {16, 18, 44}) used.insert(data.colSkill(vehicle)->iKey);
+  for (const auto& profile : data.colProfil) used.insert(profile->colSkillPro.begin(), profile->colSkillPro.end());
+  for (const auto& skill : data.colSkill) EXPECT_EQ(used.count(skill->iKey), 1U) << skill->sName;
+}
+
+TEST_F(Game, NoTwoArtsAreAlike) {
+  std::set<std::pair<std::int16_t, std::int16_t>> restrictions;
+  std::set<std::set<std::string>> techniques;
+  for (const auto& art : run.data().colMartialArt) {
+    EXPECT_TRUE(restrictions.emplace(art->iRestrictO, art->iRestrictD).second) << art->sName;
+    std::map<std::string, std::set<std::string>> names;
+    for (int i = 1; i <= art->colMartialTechnic.Count(); ++i) {
+      const auto technic = art->colMartialTechnic(i);
+      names[technic->sType].insert(technic->sName);
+    }
+    for (const char* type : {"o", "d"}) EXPECT_TRUE(techniques.insert(names[type]).second) << art->sName << ' ' << type;
+  }
+}
+
+// A drawn power is printed with its place in the list, from 0: so its number ends.
+TEST_F(Game, EveryCategoryHasThirteenPowersNumberedByTheirPlace) {
   std::map<std::string, int> powers;
-  for (const auto& power : data.colMutation) ++powers[power->sCateg + power->sSign];
-  for (const std::string category : {"Alpha", "Bêta", "Epsilon", "Psy"})
-    for (const char* sign : {"Plus", "Moins"}) EXPECT_GT(powers[category + sign], 0) << category << sign;
+  for (const auto& power : run.data().colMutation) {
+    const int place = powers[power->sCateg + power->sSign]++;
+    EXPECT_GE(power->iNum, 100) << power->sName;
+    EXPECT_TRUE(power->sSign == "Moins" || power->iNum % 100 == place) << power->sName;
+  }
+  for (const std::string category : {"Alpha", "Bêta", "Epsilon", "Psy"}) {
+    EXPECT_EQ(powers[category + "Plus"], 13) << category;
+    EXPECT_GT(powers[category + "Moins"], 0) << category;
+  }
   EXPECT_EQ(powers.size(), 8U);
+}
+
+TEST_F(Game, NoLineBreaksInFrontOfAMark) {
+  for (const auto& [name, bytes] : files.contents)
+    for (const char* mark : {" ;", " :", " !", " ?"})
+      EXPECT_TRUE(!name.ends_with(".txt") || bytes.find(mark) == std::string::npos) << name << mark;
 }
 
 }  // namespace

@@ -83,7 +83,7 @@ TEST_F(Bitmaps, OfTheExamplesAreAsApproved) {
                                        entry.path().filename().replace_extension(".png"));
     }
   }
-  EXPECT_EQ(bitmaps, 6);
+  EXPECT_EQ(bitmaps, 12);
 }
 
 }  // namespace
