@@ -37,7 +37,7 @@ double greatestDifference(const QImage& one, const QImage& other) {
 constexpr double kSameDrawing = 15;
 
 TEST(Pictures, AreDrawnFromTheirSourcesAtTheirSizes) {
-  for (const auto* family : {"Liberation Sans", "Liberation Sans Narrow"})
+  for (const auto* family : {"Liberation Sans", "Liberation Sans Narrow", "Liberation Serif"})
     ASSERT_TRUE(QFontDatabase::families().contains(family)) << family;
   std::map<QString, QImage> drawn{{"recto.bmp", drawPage(kFolder + "recto.svg", kRectoSize)},
                                   {"verso.bmp", drawPage(kFolder + "verso.svg", kVersoSize)},
