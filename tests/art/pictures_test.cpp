@@ -4,9 +4,11 @@
 #include <map>
 #include <stdexcept>
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QImage>
 
+#include "sheet/art/render/paper.h"
 #include "sheet/art/render/rendering.h"
 #include "tests/canvas/gui.h"
 #include "tests/support/source_folder.h"
@@ -49,6 +51,12 @@ TEST(Pictures, AreDrawnFromTheirSourcesAtTheirSizes) {
     EXPECT_LT(greatestDifference(kept, image), kSameDrawing) << "draw it again, target art: " << file.toStdString();
     EXPECT_EQ(kept.hasAlphaChannel(), image.hasAlphaChannel()) << file.toStdString();
   }
+}
+
+TEST(Pictures, OfThePaperAreTheSameBytesAtEveryHour) {
+  QFile kept(QString::fromStdString(test::sourceFolder() / "game/table/feuille.pdf"));
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(kept.readAll() == blankSheet(kFolder)) << "draw it again, target art";
 }
 
 TEST(Pictures, RefuseAPageOfAnotherSizeAndAMissingSource) {

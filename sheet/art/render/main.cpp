@@ -2,9 +2,11 @@
 #include <exception>
 #include <stdexcept>
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 
+#include "sheet/art/render/paper.h"
 #include "sheet/art/render/rendering.h"
 
 using namespace orvane;
@@ -13,6 +15,12 @@ namespace {
 
 void save(const QImage& image, const QString& path, const char* format) {
   if (!image.save(path, format)) throw std::runtime_error("cannot write " + path.toStdString());
+}
+
+void save(const QByteArray& bytes, const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+    throw std::runtime_error("cannot write " + path.toStdString());
 }
 
 void drawAll(const QString& folder) {
@@ -25,15 +33,17 @@ void drawAll(const QString& folder) {
 
 }  // namespace
 
-// orvane-art FOLDER: draws the bitmaps beside the SVG sources in FOLDER.
+// orvane-art FOLDER TABLE: draws the bitmaps beside the SVG sources in FOLDER, and into TABLE what is printed for the
+// table.
 int main(int argc, char** argv) {
   QGuiApplication application(argc, argv);
-  if (application.arguments().size() != 2) {
-    std::fputs("usage: orvane-art FOLDER\n", stderr);
+  if (application.arguments().size() != 3) {
+    std::fputs("usage: orvane-art FOLDER TABLE\n", stderr);
     return 2;
   }
   try {
     drawAll(application.arguments().at(1));
+    save(blankSheet(application.arguments().at(1)), application.arguments().at(2) + "/feuille.pdf");
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "orvane-art: %s\n", failure.what());
     return 1;

@@ -13,6 +13,13 @@ void load(QSvgRenderer& renderer, const QString& source) {
   if (!renderer.load(source)) throw std::runtime_error("cannot read " + source.toStdString());
 }
 
+void loadPage(QSvgRenderer& renderer, const QString& source, QSize size) {
+  load(renderer, source);
+  if (renderer.viewBoxF() != QRectF(QPointF(0, 0), QSizeF(size)))
+    throw std::runtime_error(source.toStdString() + " is not drawn for " + std::to_string(size.width()) + " x " +
+                             std::to_string(size.height()) + " pixels");
+}
+
 QImage draw(QSvgRenderer& renderer, QSize size, const QColor& ground) {
   // Alpha keeps letters from being smoothed in colours for one kind of screen: the paper is grey.
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -29,11 +36,14 @@ QImage draw(QSvgRenderer& renderer, QSize size, const QColor& ground) {
 
 QImage drawPage(const QString& source, QSize size) {
   QSvgRenderer renderer;
-  load(renderer, source);
-  if (renderer.viewBoxF() != QRectF(QPointF(0, 0), QSizeF(size)))
-    throw std::runtime_error(source.toStdString() + " is not drawn for " + std::to_string(size.width()) + " x " +
-                             std::to_string(size.height()) + " pixels");
+  loadPage(renderer, source, size);
   return draw(renderer, size, Qt::white).convertToFormat(QImage::Format_RGB32);
+}
+
+void paintPage(QPainter& painter, const QString& source, QSize size) {
+  QSvgRenderer renderer;
+  loadPage(renderer, source, size);
+  renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
 }
 
 QImage drawMark(const QString& source, QSize size) {

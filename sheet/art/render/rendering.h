@@ -4,6 +4,8 @@
 #include <QSize>
 #include <QString>
 
+class QPainter;
+
 namespace orvane {
 
 // 96 dots per inch: the resolution that the boxes of the sheet are measured in, 15 twips to a pixel.
@@ -19,6 +21,9 @@ inline constexpr int kIconSides[] = {16, 22, 24, 32, 48, 64, 128, 256, 512};
 // The page of an SVG source on white paper, 24 bits a pixel. Fails with std::runtime_error if the source cannot be read
 // or is not drawn for exactly this size: a form that is scaled has no crisp rules.
 QImage drawPage(const QString& source, QSize size);
+
+// The same page, painted at the painter's origin with one unit to a pixel. Fails as drawPage does.
+void paintPage(QPainter& painter, const QString& source, QSize size);
 
 // The picture of an SVG source on a transparent ground, scaled to the size. Fails with std::runtime_error if the source
 // cannot be read.
