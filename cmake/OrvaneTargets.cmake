@@ -13,7 +13,11 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_build INTERFACE -fsanitize=address,undefined)
 endif()
 
-# Precompiled once for all that need no Qt, once with Qt, and the same for the tests.
+# Precompiled once for all that need no Qt, once with Qt, and the same for the tests. Not under ccache: g++ writes no two
+# precompiled headers alike, so that one clone could use nothing of what was compiled in another.
+if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES "ccache")
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
 set(standard_headers <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
 set(qt_headers <QApplication> <QComboBox> <QKeyEvent> <QLayout> <QMdiArea> <QMenuBar> <QMessageBox> <QPainter>
   <QPlainTextEdit> <QSignalBlocker> <QStyleOption> <QTimer> <QTreeWidget>)
