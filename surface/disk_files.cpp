@@ -51,6 +51,13 @@ bool isFolder(const std::filesystem::directory_entry& entry) {
   return look(entry.path(), found, ::lstat) && isDirectory(found);
 }
 
+std::vector<FolderEntry> entriesOf(const std::string& path, std::error_code& error) {
+  std::vector<FolderEntry> entries;
+  for (std::filesystem::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
+    entries.push_back({entry->path().filename(), isFolder(*entry)});
+  return entries;
+}
+
 bool knowsNoLinks(int error) { return error == EPERM || error == EOPNOTSUPP || error == ENOSYS || error == EMLINK; }
 
 class DirectoryLock : public FolderLock {
@@ -58,6 +65,8 @@ class DirectoryLock : public FolderLock {
   explicit DirectoryLock(const std::string& path) : directory_(path, O_RDONLY | O_DIRECTORY) {
     if (!directory_.isOpen()) fail("Verrouillage impossible", path);
   }
+  // Closing it may fail, and this program would wait for itself.
+  ~DirectoryLock() override { ::flock(directory_.descriptor(), LOCK_UN); }
 
   bool take() {
     return uninterrupted([&] { return ::flock(directory_.descriptor(), LOCK_EX | LOCK_NB); }) == 0;
@@ -97,11 +106,9 @@ std::string DiskFiles::read(const std::string& path) {
 }
 
 std::vector<FolderEntry> DiskFiles::list(const std::string& path) {
-  namespace fs = std::filesystem;
-  std::vector<FolderEntry> entries;
   std::error_code error;
-  for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error))
-    entries.push_back({entry->path().filename(), isFolder(*entry)});
+  auto entries = entriesOf(path, error);
+  while (error == std::errc::interrupted) entries = entriesOf(path, error);
   if (error) fail("Lecture impossible", path, error.value());
   return entries;
 }

@@ -34,7 +34,9 @@ class OpenFile {
   bool isOpen() const { return descriptor_ >= 0; }
   int descriptor() const { return descriptor_; }
 
-  bool stat(struct stat& found) const { return ::fstat(descriptor_, &found) == 0; }
+  bool stat(struct stat& found) const {
+    return uninterrupted([&] { return ::fstat(descriptor_, &found); }) == 0;
+  }
 
   // Bytes read, 0 at the end.
   template <std::size_t N>
