@@ -32,8 +32,8 @@ class ContentsCheck {
     checkRepetitions(folder_.technics, martialTechnicFormat, "iKey", keyOf, duplicateKey);
     const auto numberOf = [](const clsMutation& power) { return power.sCateg + std::to_string(power.iNum); };
     checkRepetitions(data.colMutation, mutationFormat, "iNum", numberOf, duplicateNumber);
-    if (folder_.wasRead(skillFormat.file)) checkFixedKeys();
-    if (folder_.wasRead(martialArtFormat.file)) checkTechnicsOfArts();
+    if (data.colSkill.Count() > 0) checkFixedKeys();
+    if (data.colMartialArt.Count() > 0) checkTechnicsOfArts();
   }
 
  private:

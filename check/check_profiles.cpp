@@ -30,7 +30,7 @@ class ProfileCheck {
   }
 
   std::vector<std::int32_t> run() {
-    if (offer_.profiles.empty() && data_.colProfil.Count() > 0)
+    if (offer_.profiles.empty())
       folder_.findings.add(noProfile, {profilFormat.file}, "aucun profil à choisir à côté d'« Assermenté »");
     std::vector<std::int32_t> applicable;
     for (const auto profile : offer_.profiles)
@@ -204,7 +204,7 @@ class ProfileCheck {
 }  // namespace
 
 std::vector<std::int32_t> checkProfiles(DataFolder& folder, const Offer& offer, Pictures& pictures) {
-  if (!folder.wasRead(profilFormat.file) || !folder.wasRead(skillFormat.file)) return {};
+  if (folder.data.colProfil.Count() == 0 || folder.data.colSkill.Count() == 0) return {};
   return ProfileCheck(folder, offer, pictures).run();
 }
 

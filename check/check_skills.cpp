@@ -85,7 +85,7 @@ class SkillCheck {
 }  // namespace
 
 void checkSkills(DataFolder& folder, const Offer& offer) {
-  if (folder.wasRead(skillFormat.file)) SkillCheck(folder, offer).run();
+  if (folder.data.colSkill.Count() > 0) SkillCheck(folder, offer).run();
 }
 
 }  // namespace orvane

@@ -1,5 +1,7 @@
 #include "check/data_folder.h"
 
+#include <cmath>
+
 #include "check/mended_bytes.h"
 #include "check/names.h"
 #include "check/nobody.h"
@@ -76,12 +78,14 @@ Told toldOf(const Fault& fault) {
   }
 }
 
-bool isPlainNumber(std::string_view bytes) {
+// The number that is read from an element of a list that is more, or less, than that number.
+std::optional<double> looseValue(std::string_view bytes) {
+  const double value = numericPrefix(bytes);
   try {
-    return strictNumber(bytes) == numericPrefix(bytes);
+    if (strictNumber(bytes) == value) return std::nullopt;
   } catch (const Failure&) {
-    return false;
   }
+  return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 class FolderReading : public Reading {
@@ -103,7 +107,9 @@ class FolderReading : public Reading {
     findLooseNumber();
     folder_.places.field(text);
     const bool isListElement = text.field.member.starts_with("col");
-    if (isListElement && !isPlainNumber(text.bytes)) loose_ = text;
+    if (const auto value = isListElement ? looseValue(text.bytes) : std::nullopt)
+      loose_ = {{text.file, text.line, text.column, text.field.member},
+                shown(text.bytes) + " est lu comme " + numberText(*value)};
   }
 
   void record() override {
@@ -114,9 +120,7 @@ class FolderReading : public Reading {
  private:
   void findLooseNumber() {
     if (!loose_) return;
-    const DataPlace place{loose_->file, loose_->line, loose_->column, loose_->field.member};
-    folder_.findings.add(looseNumber, place,
-                         shown(loose_->bytes) + " est lu comme " + numberText(numericPrefix(loose_->bytes)));
+    folder_.findings.add(looseNumber, loose_->first, loose_->second);
     folder_.places.spoil(false);
     loose_.reset();
   }
@@ -132,8 +136,10 @@ class FolderReading : public Reading {
 
   DataFolder& folder_;
   // The field told last, of a list, where it is more or less than a number.
-  std::optional<FieldText> loose_;
+  std::optional<std::pair<DataPlace, std::string>> loose_;
 };
+
+constexpr std::size_t longestTitle = 60;  // of a column, characters
 
 // Reads title lines as if they were records.
 class TitleReading : public Reading, public DiskFiles {
@@ -143,20 +149,24 @@ class TitleReading : public Reading, public DiskFiles {
   std::set<std::string_view> records;  // the files whose title line makes a record
 
   bool fileExists(const std::string& path) override { return titles_.count(path) > 0; }
-  std::string read(const std::string& path) override { return "\n" + titles_[path]; }
+  std::string read(const std::string& path) override { return "\n" + titles_[path] + "\n"; }
 
   void fault(const Fault& fault) override { isFaulty_ |= fault.kind >= FaultKind::Separator; }
   void field(const FieldText& text) override {
     if (text.position == 1) isFaulty_ = false;
     file_ = text.file;
+    length_ = text.bytes.size();
   }
   void record() override {
-    if (!isFaulty_) records.insert(file_);
+    // In a file of mere texts a title is told from a record by its length.
+    const bool isTitle = file_ == districtFormat.file && length_ <= longestTitle;
+    if (!isFaulty_ && !isTitle) records.insert(file_);
   }
 
  private:
   std::map<std::string, std::string> titles_;
   std::string_view file_;
+  std::size_t length_ = 0;  // of the field told last
   bool isFaulty_ = false;
 };
 
@@ -165,8 +175,6 @@ void findRecordsInTitles(const std::map<std::string, std::string>& titles, Findi
   ReferenceData data;
   Nobody nobody;
   readData(data, reading, nobody, reading);
-  // The title of a file of mere texts cannot be told from a record.
-  reading.records.erase(districtFormat.file);
   for (const auto file : reading.records)
     findings.add(titleIsRecord, {file}, "un enregistrement à la place de la ligne de titre n'est pas lu");
 }
