@@ -1,18 +1,34 @@
-#include <gtest/gtest.h>
+#include "player/play_scripts.h"
 
-#include "tests/player/play_fixture.h"
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "tests/support/approved.h"
+#include "tests/support/fakes.h"
 
 namespace orvane::test {
 namespace {
 
-class CommandLineTest : public PlayFixture {
+// The player on the game, with files in memory. Scripts go to standard input or to files of their own.
+class CommandLineTest : public ::testing::Test, protected TestWorld<> {
  protected:
   CommandLineTest() {
+    files = filesOf();
     files.contents["one.script"] = "click mnuFileNewPJ\ntype txtAge \"31\"\nget txtAge.Text\n";
     files.contents["two.script"] = "windows\nget txtAge.Text\n";
     files.contents["refused.script"] = "get txtAge.Text\n";
     files.contents["wrong.script"] = "windows\nhop\n";
   }
+  int play(const std::string& script, const std::vector<std::string>& arguments = {}) {
+    std::istringstream in(script);
+    out.str("");
+    err.str("");
+    return playScripts(arguments, in, out, err, {files, pictures, clock});
+  }
+  std::string transcript() const { return out.str(); }
+
+  std::ostringstream out;
+  std::ostringstream err;
 };
 
 TEST_F(CommandLineTest, PlaysStandardInputWithoutAScript) {
@@ -30,6 +46,17 @@ TEST_F(CommandLineTest, PlaysSeveralScriptsInOneRun) {
             "window 0 frmMain \"Orvane\"\n"
             "window 1 frmPersonnage \"\" active\n"
             "txtAge.Text \"32\"\n");
+}
+
+TEST_F(CommandLineTest, EachScriptEndsItsDialogsAndItsAnswers) {
+  files.contents["one.script"] =
+      "click mnuFileNewPJ\npick SSTabPerso 2\nanswer No\nclick cmdContactNew\ntype txtContactName \"Zoé\"\n";
+  files.contents["two.script"] = "windows\nget lstContact.ListCount\nclick cmdPrintPreview\n";
+  EXPECT_EQ(play("", {"one.script", "two.script"}), 0);
+  EXPECT_TRUE(
+      transcript().starts_with("window 0 frmMain \"Orvane\"\nwindow 1 frmPersonnage \"\" active\n"
+                               "lstContact.ListCount 0\nbox 48"))
+      << transcript();
 }
 
 TEST_F(CommandLineTest, TheFirstRefusalEndsTheWholeRunUnlessItKeepsGoing) {

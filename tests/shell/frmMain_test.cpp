@@ -1,5 +1,3 @@
-#include <array>
-
 #include "shell/FrmReadMe.h"
 #include "tests/support/test_run.h"
 
@@ -8,6 +6,11 @@ namespace {
 
 class FrameTest : public TestRun<> {
  protected:
+  static std::map<std::string, std::string> places(const char* left, const char* top, const char* width,
+                                                   const char* height) {
+    const std::string key = "Tessaly/Settings/Main";
+    return {{key + "Left", left}, {key + "Top", top}, {key + "Width", width}, {key + "Height", height}};
+  }
   frmMain& frame() { return *run.mainWindow(); }
   FrmReadMe& openHelp() {
     user.click(frame().mnuHelpContents);
@@ -15,54 +18,12 @@ class FrameTest : public TestRun<> {
   }
 };
 
-TEST_F(FrameTest, TheCurrentWindowIsTheActiveOneAfterAnotherCloses) {
-  start();
-  auto* first = newCharacter();
-  auto* second = newCharacter();
-  EXPECT_EQ(globals().frmCurrentPerso, second);
-  auto* third = newCharacter();
-  user.activate(*first);
-  EXPECT_EQ(globals().frmCurrentPerso, first);
-  user.close(*first);
-  EXPECT_EQ(globals().frmCurrentPerso, third);
-  user.click(second->cmdClose);
-  EXPECT_EQ(globals().frmCurrentPerso, third);
-  user.close(*third);
-  EXPECT_EQ(globals().frmCurrentPerso, nullptr);
-}
-
-TEST_F(FrameTest, OpensNoWindowThatCouldNotBeFilled) {
-  const std::string impossible = "16|Tessaly|Pas de nouveau personnage possible : ";
-  const std::string base = "Nom;\nAsserment\xE9;False;;14;\n";
-  // The first profile has two codes for the vehicle: its window closes itself.
-  const std::string faulty = base + "Double;True;Faux.;101;101;\nBon;True;Juste.;14;\n";
-  for (const auto& [path, text, box] : std::vector<std::array<std::string, 3>>{
-           {"./profil.txt", faulty, "16|Tessaly|Code 101 plusieurs fois dans le profil !"},
-           {"./profil.txt", base, impossible + "aucun profil utilisable n'a été lu dans profil.txt."},
-           {"./ethnie.txt", "Nom;\n", impossible + "aucune ethnie n'a été lue dans ethnie.txt."}}) {
-    files = filesOf();
-    files.contents[path] = text;
-    orvane::Run other(world());
-    other.Main();
-    dialogs.log.clear();
-    User(other.desktop()).click(other.mainWindow()->mnuFileNewPJ);
-    EXPECT_EQ(dialogs.log, Log{box});
-    EXPECT_EQ(other.globals().frmCurrentPerso, nullptr);
-    EXPECT_EQ(other.desktop().Forms().size(), 1U);
-  }
-}
-
 TEST_F(FrameTest, ReadsThePlacementAndTakesWhatIsNoNumberForAbsent) {
-  settings.values = {{"Tessaly/Settings/MainLeft", "250.5"},
-                     {"Tessaly/Settings/MainTop", "abc"},
-                     {"Tessaly/Settings/MainWidth", ""},
-                     {"Tessaly/Settings/MainHeight", "1e300"}};
+  settings.values = places("250.5", "abc", "", "1e300");
   start();
   const auto& place = frame().placement();
-  EXPECT_EQ(place.Left, 250.5F);
-  EXPECT_EQ(place.Top, 1000);
-  EXPECT_EQ(place.Width, 6500);
-  EXPECT_EQ(place.Height, 6500);
+  EXPECT_EQ(std::vector({place.Left, place.Top, place.Width, place.Height}),
+            std::vector({250.5F, 1000.0F, 6500.0F, 6500.0F}));
 }
 
 TEST_F(FrameTest, SavesThePlacementInShortestPlainTexts) {
@@ -70,11 +31,7 @@ TEST_F(FrameTest, SavesThePlacementInShortestPlainTexts) {
   frame().moved({-15, 0, 100000, 6500.5F});
   frame().setWindowState(2);
   user.close(frame());
-  const std::map<std::string, std::string> saved = {{"Tessaly/Settings/MainLeft", "-15"},
-                                                    {"Tessaly/Settings/MainTop", "0"},
-                                                    {"Tessaly/Settings/MainWidth", "100000"},
-                                                    {"Tessaly/Settings/MainHeight", "6500.5"}};
-  EXPECT_EQ(settings.values, saved);
+  EXPECT_EQ(settings.values, places("-15", "0", "100000", "6500.5"));
 }
 
 TEST_F(FrameTest, AMinimizedFrameSavesNothing) {
@@ -84,23 +41,17 @@ TEST_F(FrameTest, AMinimizedFrameSavesNothing) {
   EXPECT_TRUE(settings.values.empty());
 }
 
-TEST_F(FrameTest, ContentsAndAideBringUpTheSameWindow) {
+TEST_F(FrameTest, HelpIsOneWindowAndSaysWhyItCannotBeShown) {
   start();
   FrmReadMe& help = openHelp();
   EXPECT_EQ(help.rtbReadMe.TextRTF(), files.contents["ReadMe.rtf"]);
   user.click(newCharacter()->cmdHelp);
   EXPECT_EQ(run.desktop().activeChild(), &help);
-  EXPECT_EQ(run.desktop().Forms().size(), 3U);
   user.click(help.cmdClose);
-  EXPECT_NE(openHelp().rtbReadMe.TextRTF(), "") << "a fresh one";
-}
-
-TEST_F(FrameTest, HelpSaysWhyItCannotBeShown) {
-  start();
   const auto shownText = [this] {
-    FrmReadMe& help = openHelp();
-    const std::string text = help.rtbReadMe.Text();
-    user.click(help.cmdClose);
+    FrmReadMe& fresh = openHelp();
+    const std::string text = fresh.rtbReadMe.Text();
+    user.click(fresh.cmdClose);
     return text;
   };
   files.broken.insert("ReadMe.rtf");

@@ -10,8 +10,21 @@ namespace orvane::test {
 namespace {
 
 // Writes down everything that reaches the outside world, in one list.
-class StartTest : public ::testing::Test, protected Dialogs, Clock, Settings, DesktopObserver {
- protected:
+class Outside : Dialogs, Clock, Settings, DesktopObserver {
+ public:
+  void start() {
+    run.desktop().watch(*this);
+    run.Main();
+  }
+
+  Log log;
+  float now = 1000;
+  float secondsForEachBox = 0;
+  MemoryFiles files;
+  BlankPictures pictures;
+  orvane::Run run{World{*this, *this, *this, files, pictures}};
+
+ private:
   Answer MsgBox(const std::string& prompt, BoxStyle style, const std::string&) override {
     log.push_back("box " + std::to_string(static_cast<int>(style)) + " " + prompt);
     now += secondsForEachBox;
@@ -46,18 +59,6 @@ class StartTest : public ::testing::Test, protected Dialogs, Clock, Settings, De
   }
   void refresh(Form& form) override { log.push_back("refresh " + form.Name()); }
   void unloaded(Form& form) override { log.push_back("unloaded " + form.Name()); }
-
-  void start() {
-    run.desktop().watch(*this);
-    run.Main();
-  }
-
-  Log log;
-  float now = 1000;
-  float secondsForEachBox = 0;
-  MemoryFiles files;
-  BlankPictures pictures;
-  orvane::Run run{World{*this, *this, *this, files, pictures}};
 };
 
 Log started(const Log& wait) {
@@ -72,42 +73,37 @@ Log started(const Log& wait) {
   return expected;
 }
 
-TEST_F(StartTest, RunsItsStepsInOrderAndWaitsOutTheSecond) {
-  start();
-  EXPECT_EQ(log, started({"Timer", "sleep 1000 ms", "Timer"}));
-  ASSERT_EQ(run.desktop().Forms().size(), 1U);
-  EXPECT_EQ(run.desktop().Forms().front().get(), run.mainWindow());
-  log.clear();
-  run.desktop().unload(*run.mainWindow());
-  EXPECT_EQ(log, (Log{"SaveSetting MainLeft 1000", "SaveSetting MainTop 1000", "SaveSetting MainWidth 6500",
-                      "SaveSetting MainHeight 6500", "unloaded frmMain"}));
-  EXPECT_EQ(run.mainWindow(), nullptr);
+TEST(Start, RunsItsStepsInOrderAndWaitsForWhatIsLeftOfASecond) {
+  const struct {
+    float now, secondsForEachBox;
+    Log wait;
+  } starts[] = {{1000, 0, {"Timer", "sleep 1000 ms", "Timer"}},
+                {1000, 0.0625F, {"Timer", "sleep 500 ms", "Timer"}},
+                {1000, 0.125F, {"Timer"}},
+                {1000, 3, {"Timer"}},
+                {86399.75F, 0, {"Timer", "sleep 1000 ms", "Timer"}}};  // across midnight
+  for (const auto& [now, secondsForEachBox, wait] : starts) {
+    Outside outside;
+    outside.now = now;
+    outside.secondsForEachBox = secondsForEachBox;
+    outside.start();
+    EXPECT_EQ(outside.log, started(wait));
+  }
 }
 
-TEST_F(StartTest, BringsAnInterruptedSaveToItsEndBehindTheMainWindow) {
-  files.directories = {"./Perso", "./Perso/.sauvegarde-1"};
-  start();
-  ASSERT_GE(log.size(), 2U);
-  EXPECT_EQ(log[log.size() - 2], "shown frmMain");
-  EXPECT_EQ(log.back(), "notice Une sauvegarde a été interrompue : ses fichiers sont de nouveau comme avant.");
-}
-
-TEST_F(StartTest, WaitsNoLongerThanIsLeft) {
-  secondsForEachBox = 0.0625F;
-  start();
-  EXPECT_EQ(log, started({"Timer", "sleep 500 ms", "Timer"}));
-}
-
-TEST_F(StartTest, DoesNotWaitWhenReadingTookLonger) {
-  secondsForEachBox = 3;
-  start();
-  EXPECT_EQ(log, started({"Timer"}));
-}
-
-TEST_F(StartTest, WaitsAcrossMidnight) {
-  now = 86399.75F;
-  start();
-  EXPECT_EQ(log, started({"Timer", "sleep 1000 ms", "Timer"}));
+TEST(Start, EndsWithTheMainWindow) {
+  Outside outside;
+  outside.files.directories = {"./Perso", "./Perso/.sauvegarde-1"};
+  outside.start();
+  EXPECT_EQ(outside.log.back(), "notice Une sauvegarde a été interrompue : ses fichiers sont de nouveau comme avant.");
+  EXPECT_EQ(*(outside.log.end() - 2), "shown frmMain");
+  ASSERT_EQ(outside.run.desktop().Forms().size(), 1U);
+  EXPECT_EQ(outside.run.desktop().Forms().front().get(), outside.run.mainWindow());
+  outside.log.clear();
+  outside.run.desktop().unload(*outside.run.mainWindow());
+  EXPECT_EQ(outside.log, (Log{"SaveSetting MainLeft 1000", "SaveSetting MainTop 1000", "SaveSetting MainWidth 6500",
+                              "SaveSetting MainHeight 6500", "unloaded frmMain"}));
+  EXPECT_EQ(outside.run.mainWindow(), nullptr);
 }
 
 }  // namespace
