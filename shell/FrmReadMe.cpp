@@ -1,6 +1,6 @@
 #include "shell/FrmReadMe.h"
 
-#include "shell/rich_text.h"
+#include "shell/rtf_reader.h"
 #include "surface/desktop.h"
 #include "surface/failure.h"
 
@@ -21,8 +21,7 @@ void FrmReadMe::Form_Load() {
     return;
   }
   try {
-    rtbReadMe.LoadFile(fileName);
-    readRichText(rtbReadMe.TextRTF());
+    rtbReadMe.LoadFile(fileName, RtfReader::html);
   } catch (const Failure& failure) {
     rtbReadMe.setText("Fichier " + fileName + " illisible : " + failure.what());
   }

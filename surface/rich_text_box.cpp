@@ -4,14 +4,14 @@
 
 namespace orvane {
 
-void RichTextBox::LoadFile(const std::string& path) {
-  std::string bytes = form().desktop().world().files.read(path);
+void RichTextBox::LoadFile(const std::string& path, std::string (*reader)(std::string_view bytes)) {
+  std::string html = reader(form().desktop().world().files.read(path));
   text_.clear();
-  store(textRtf_, std::move(bytes));
+  store(html_, std::move(html));
 }
 
 void RichTextBox::setText(std::string text) {
-  textRtf_.clear();
+  html_.clear();
   store(text_, std::move(text));
 }
 

@@ -9,17 +9,17 @@ class RichTextBox : public Control {
  public:
   using Control::Control;
 
-  // The bytes of the file as they are. Fails when it cannot be read.
-  void LoadFile(const std::string& path);
-  const std::string& TextRTF() const { return textRtf_; }
-  // UTF-8; empty once a file was loaded.
+  // Shows the HTML that the reader makes of the bytes of a file. Fails when they cannot be read or understood.
+  void LoadFile(const std::string& path, std::string (*reader)(std::string_view bytes));
+  // UTF-8; one of both is empty.
+  const std::string& Html() const { return html_; }
   const std::string& Text() const { return text_; }
   void setText(std::string text);
 
   std::string_view kind() const override { return "texte mis en forme"; }
 
  private:
-  std::string textRtf_;
+  std::string html_;
   std::string text_;
 };
 

@@ -1,4 +1,5 @@
 #include "shell/FrmReadMe.h"
+#include "shell/rtf_reader.h"
 #include "tests/support/test_run.h"
 
 namespace orvane::test {
@@ -44,7 +45,7 @@ TEST_F(FrameTest, AMinimizedFrameSavesNothing) {
 TEST_F(FrameTest, HelpIsOneWindowAndSaysWhyItCannotBeShown) {
   start();
   FrmReadMe& help = openHelp();
-  EXPECT_EQ(help.rtbReadMe.TextRTF(), files.contents["ReadMe.rtf"]);
+  EXPECT_EQ(help.rtbReadMe.Html(), RtfReader::html(files.contents["ReadMe.rtf"]));
   user.click(newCharacter()->cmdHelp);
   EXPECT_EQ(run.desktop().activeChild(), &help);
   user.click(help.cmdClose);
