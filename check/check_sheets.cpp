@@ -13,6 +13,7 @@
 #include "editor/skill_rules.h"
 #include "sheet/composition.h"
 #include "sheet/drawn_power.h"
+#include "surface/failure.h"
 #include "surface/user.h"
 
 namespace orvane {
@@ -62,11 +63,12 @@ class SheetCheck {
     trial_.act([&] { box.setListIndex(entry); });
   }
 
-  // Skills that the user has to name get a name.
+  // Skills that the user has to name get another name.
   frmFeuille& composed() {
     for (const auto& row : window().lvwSkillGen.rows())
-      if (isNamedByUser(number(*row, SkillRow::Key))) row->setText("x");
+      if (isNamedByUser(number(*row, SkillRow::Key))) row->setText("…");
     trial_.act([&] { composeSheet(trial_.globals(), window()); });
+    if (!trial_.globals().frmCurrentFeuille) throw Failure("aucune feuille ne peut être composée");
     return *trial_.globals().frmCurrentFeuille;
   }
 

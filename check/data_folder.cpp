@@ -1,6 +1,7 @@
 #include "check/data_folder.h"
 
 #include <cmath>
+#include <optional>
 
 #include "check/mended_bytes.h"
 #include "check/names.h"
