@@ -41,8 +41,8 @@ TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
       "txtPerso cmbSexe txtAge txtYeux txtTaille txtPoids txtCheveux cmbDistrict cmbEthnie cmbProfil cmbGrade "
       "cmbVehicle txtLangRest optLang_0 txtLang_0 optLang_1 txtLang_1 optLang_2 txtOtherLang txtLang_2 cmdLangModif_0 "
       "cmdLangModif_1",
-      "optCaract_0 optCaract_1 optCaract_2 optCaract_3 optCaract_4 optCaract_5 optCaract_6 optCaract_7 "
-      "cmdCaractModif_0 cmdCaractModif_1 lblSecondCaract_0 lblSecondCaract_1 lblSecondCaract_2",
+      ("optCaract_0 optCaract_1 optCaract_2 optCaract_3 optCaract_4 optCaract_5 optCaract_6 optCaract_7 "
+       "cmdCaractModif_0 cmdCaractModif_1 lblSecondCaract_0 lblSecondCaract_1 lblSecondCaract_2"),
       "lstContact cmdContactNew txtContactDescro optContact_0 optContact_1",
       "lvwSkillGen txtSkillRest cmdSkillGenModif_0 cmdSkillGenModif_1",
       "lvwMartialArt cmdMartialArtModif_0 cmdMartialArtModif_1 lvwMartialTechnic",
