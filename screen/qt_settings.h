@@ -6,12 +6,13 @@
 
 namespace orvane {
 
-// The per-user store: a file of texts in the user's folder for settings.
+// The user's folder for settings: XDG_CONFIG_HOME, else .config in HOME. Empty where neither is a folder of the user's.
+QString settingsFolder();
+
+// The per-user store: a file of texts. Without a folder, and where the disk refuses, nothing is kept.
 class QtSettings final : public Settings {
  public:
-  QtSettings() = default;
-  // In a folder of its own, for tests.
-  explicit QtSettings(QString folder) : folder_(std::move(folder)) {}
+  explicit QtSettings(QString folder = settingsFolder()) : folder_(std::move(folder)) {}
 
   std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                          const std::string& defaultValue) override;

@@ -9,6 +9,7 @@
 #include "shell/frmSplash.h"
 #include "shell/placement_text.h"
 #include "surface/desktop.h"
+#include "surface/world.h"
 
 namespace orvane {
 namespace {
@@ -17,16 +18,23 @@ constexpr int minimized = 1;
 
 const std::string section = "Settings";
 
+// As far as any desktop reaches, and the least that still shows a window, in twips.
+constexpr float farthest = 32767 * twipsPerPixel;
+constexpr float narrowest = 200 * twipsPerPixel;
+constexpr float lowest = 100 * twipsPerPixel;
+
 struct PlacementKey {
   const char* key;
   float frmMain::Placement::*value;
+  float least;
+  bool allows(float twips) const { return twips >= least && twips <= farthest; }
 };
 
 // In the order in which they are read and saved.
-constexpr std::array<PlacementKey, 4> placementKeys = {{{"MainLeft", &frmMain::Placement::Left},
-                                                        {"MainTop", &frmMain::Placement::Top},
-                                                        {"MainWidth", &frmMain::Placement::Width},
-                                                        {"MainHeight", &frmMain::Placement::Height}}};
+constexpr std::array<PlacementKey, 4> placementKeys = {{{"MainLeft", &frmMain::Placement::Left, -farthest},
+                                                        {"MainTop", &frmMain::Placement::Top, -farthest},
+                                                        {"MainWidth", &frmMain::Placement::Width, narrowest},
+                                                        {"MainHeight", &frmMain::Placement::Height, lowest}}};
 
 bool hasUsableProfile(const ReferenceData& data) {
   return std::any_of(data.colProfil.begin(), data.colProfil.end(),
@@ -49,18 +57,19 @@ frmMain::frmMain(Globals& globals)
 
 void frmMain::Form_Load() {
   Settings& settings = desktop().world().settings;
-  for (const auto& [key, value] : placementKeys) {
-    const float usual = placement_.*value;
-    const std::string text = settings.GetSetting(App::Title, section, key, placementText(usual));
-    placement_.*value = placementValue(text).value_or(usual);
+  for (const auto& place : placementKeys) {
+    float& value = placement_.*place.value;
+    const auto stored = placementValue(settings.GetSetting(App::Title, section, place.key, placementText(value)));
+    if (stored && place.allows(*stored)) value = *stored;
   }
 }
 
 void frmMain::Form_Unload() {
   if (windowState_ == minimized) return;
   Settings& settings = desktop().world().settings;
-  for (const auto& [key, value] : placementKeys)
-    settings.SaveSetting(App::Title, section, key, placementText(placement_.*value));
+  for (const auto& place : placementKeys)
+    if (const float value = placement_.*place.value; place.allows(value))
+      settings.SaveSetting(App::Title, section, place.key, placementText(value));
 }
 
 void frmMain::mnuFileNewPJ_Click() {

@@ -9,7 +9,8 @@ namespace orvane {
 // The frame that holds all child windows, with the menu.
 class frmMain : public Form {
  public:
-  // In twips, as the settings store them.
+  // In twips, as the settings store them. What no desktop has room for, or shows no window, is neither taken from them
+  // nor stored.
   struct Placement {
     float Left = 1000;
     float Top = 1000;

@@ -1,3 +1,7 @@
+#include <array>
+#include <sys/stat.h>
+
+#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -65,11 +69,42 @@ TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {
   EXPECT_EQ(contactsAfter([](DialogWindow& dialog) { dialog.QWidget::close(); }), 1);
 }
 
-TEST(SettingsOnDisk, KeepTextsBetweenRuns) {
+// HOME, XDG_CONFIG_HOME, and where the settings then lie below the folder of the test; "" for nowhere.
+TEST(SettingsOnDisk, AreKeptInAFolderOfTheUsersOrNowhere) {
   const QTemporaryDir folder;
-  EXPECT_EQ(QtSettings(folder.path()).GetSetting("Tessaly", "Settings", "MainLeft", "1000"), "1000");
-  QtSettings(folder.path()).SaveSetting("Tessaly", "Settings", "MainLeft", "123.5");
-  EXPECT_EQ(QtSettings(folder.path()).GetSetting("Tessaly", "Settings", "MainLeft", "1000"), "123.5");
+  const QByteArray path = folder.path().toUtf8();
+  const std::string former[] = {qgetenv("HOME").toStdString(), qgetenv("XDG_CONFIG_HOME").toStdString()};
+  for (const auto& [home, configuration, kept] :
+       std::initializer_list<std::array<QByteArray, 3>>{{path, path + "/own", "/own"},
+                                                        {path, "relative", "/.config"},
+                                                        {path, "", "/.config"},
+                                                        {"", "", ""},
+                                                        {"", "relative", ""},
+                                                        {"/", "", ""},
+                                                        {".", "", ""},
+                                                        {path + "/absent", "", ""}}) {
+    qputenv("HOME", home);
+    qputenv("XDG_CONFIG_HOME", configuration);
+    EXPECT_EQ(settingsFolder(), kept.isEmpty() ? QString() : QString(path + kept)) << home.toStdString();
+    QtSettings().SaveSetting("Tessaly", "Settings", "MainLeft", "123.5");
+    EXPECT_EQ(QtSettings().GetSetting("Tessaly", "Settings", "MainLeft", "1000"), kept.isEmpty() ? "1000" : "123.5");
+  }
+  qputenv("HOME", former[0].c_str());
+  qputenv("XDG_CONFIG_HOME", former[1].c_str());
+}
+
+// By a lock that its program left behind, or by a pipe in the place of the store.
+TEST(SettingsOnDisk, HoldNobodyUp) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("Tessaly.ini");
+  ASSERT_EQ(::mkfifo(qPrintable(file), 0600), 0);
+  ASSERT_TRUE(QDir().mkdir(file + ".lock"));
+  QtSettings settings(folder.path());
+  EXPECT_EQ(settings.GetSetting("Tessaly", "Settings", "MainTop", "1000"), "1000");
+  for (const char* key : {"MainLeft", "MainTop"}) settings.SaveSetting("Tessaly", "Settings", key, "15");
+  for (const char* key : {"MainLeft", "MainTop"})
+    EXPECT_EQ(settings.GetSetting("Tessaly", "Settings", key, "1000"), "15");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("Tessaly.ini"));
 }
 
 }  // namespace

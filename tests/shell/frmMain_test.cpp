@@ -1,3 +1,6 @@
+#include <array>
+#include <cmath>
+
 #include "shell/FrmReadMe.h"
 #include "shell/rtf_reader.h"
 #include "tests/support/test_run.h"
@@ -19,12 +22,25 @@ class FrameTest : public TestRun<> {
   }
 };
 
-TEST_F(FrameTest, ReadsThePlacementAndTakesWhatIsNoNumberForAbsent) {
-  settings.values = places("250.5", "abc", "", "1e300");
+TEST_F(FrameTest, TakesAPlacementThatNoDesktopHasRoomForAsAbsentAndStoresNone) {
   start();
-  const auto& place = frame().placement();
-  EXPECT_EQ(std::vector({place.Left, place.Top, place.Width, place.Height}),
-            std::vector({250.5F, 1000.0F, 6500.0F, 6500.0F}));
+  using Numbers = std::vector<float>;
+  const Numbers usual{1000, 1000, 6500, 6500};
+  for (const auto& [stored, taken] : std::initializer_list<std::pair<std::array<const char*, 4>, Numbers>>{
+           {{"250.5", "-15", "3000", "1500"}, {250.5F, -15, 3000, 1500}},
+           {{"abc", "", "1e300", "nan"}, usual},
+           {{"3.2e10", "-3.2e10", "0", "-6500"}, usual},
+           {{"491506", "-491506", "2940", "1305"}, usual}}) {
+    settings.values = places(stored[0], stored[1], stored[2], stored[3]);
+    const auto window = std::make_shared<frmMain>(globals());
+    window->Load();
+    const auto& place = window->placement();
+    EXPECT_EQ((Numbers{place.Left, place.Top, place.Width, place.Height}), taken) << stored[0];
+  }
+  frame().moved({-3.2e10F, 3.2e10F, 0, std::nanf("")});
+  settings.values.clear();
+  user.close(frame());
+  EXPECT_TRUE(settings.values.empty());
 }
 
 TEST_F(FrameTest, SavesThePlacementInShortestPlainTexts) {
