@@ -21,7 +21,6 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   tree_.setRootIsDecorated(false);
   tree_.setUniformRowHeights(true);
   tree_.setAllColumnsShowFocus(true);
-  tree_.setSelectionMode(QAbstractItemView::SingleSelection);
   tree_.setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree_.setTabKeyNavigation(false);
   tree_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -217,18 +216,16 @@ void ListViewView::toggle(QTreeWidgetItem* item) {
 }
 
 void ListViewView::beginEdit() {
-  if (edited_ || !canBeReached()) return;
+  if (edited_) return;
   bool allowed = false;
-  act([&](User&) { allowed = list_.beginEdit(); });
+  // The second click of a slow pair counts later, when another tab or a dialog may have come up.
+  act([&](User& user) {
+    user.requireReachable(list_);
+    allowed = list_.beginEdit();
+  });
   if (!allowed || isDetached()) return;
   edited_ = list_.SelectedItem();
   tree_.editItem(tree_.topLevelItem(edited_->Index() - 1), 0);
-}
-
-// The second click of a slow pair counts later, when another tab or a dialog may have come up.
-bool ListViewView::canBeReached() const {
-  const Form* modal = list_.form().desktop().modal();
-  return !list_.unreachable() && (!modal || modal == &list_.form());
 }
 
 void ListViewView::endEdit(const QString& text) {

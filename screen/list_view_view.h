@@ -30,7 +30,6 @@ class ListViewView final : public View {
   void clickRow(QTreeWidgetItem* item);
   void toggle(QTreeWidgetItem* item);
   // Of the selected row, whose name the user has asked for.
-  bool canBeReached() const;
   void beginEdit();
   void endEdit(const QString& text);
   int positionOf(QTreeWidgetItem* item) const { return tree_.indexOfTopLevelItem(item) + 1; }

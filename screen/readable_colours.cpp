@@ -111,8 +111,7 @@ void showBoxColour(QWidget& box, Colour backColor) {
     box.setPalette(boxPalette(backColor, QApplication::palette(&box)));
   else if (shown.isValid() && shown.toUInt() != static_cast<uint>(backColor))
     box.setPalette(QPalette());
-  if (shown.isValid() || backColor != Colour::WindowBackground)
-    box.setProperty("orvaneBackColor", static_cast<uint>(backColor));
+  box.setProperty("orvaneBackColor", static_cast<uint>(backColor));
   const QString description = describedWith(box, markInWords(backColor));
   if (box.accessibleDescription() != description) box.setAccessibleDescription(description);
 }

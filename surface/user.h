@@ -30,10 +30,11 @@ class User {
   // Uses the close box.
   virtual void close(Form& form);
 
- protected:
-  // Both throw a Refusal.
-  void requireOpen(const Form& form) const;
+  // Where no act could come to the control now, for its own state or for a dialog in front: a Refusal.
   Control& requireReachable(Control& control) const;
+
+ protected:
+  void requireOpen(const Form& form) const;  // throws a Refusal
 
  private:
   void act(Control& control, const Effect& effect);
