@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QScrollBar>
 #include <QStyle>
 
 namespace orvane {
@@ -22,14 +23,18 @@ void place(ChildWindow& window, const QRect& where) {
   if (window.form().isResizable()) window.resize(where.size());
 }
 
-void cascade(const QSize& room, const WindowList& windows) {
-  int step = 0;
+// The room is shared out from left to right, so that the last one ends at its edge; from above each one leaves the
+// title bar of the one before it free, however many there are; hence the bar to scroll.
+void cascade(QSize room, const WindowList& windows) {
+  if (!windows.empty()) room.rwidth() -= windows.front()->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const auto steps = std::max(1, static_cast<int>(windows.size()) - 1);
+  QPoint corner;
   for (auto* window : windows) {
-    const int offset = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window) + 4;
-    const QPoint corner = QPoint(step, step);
-    place(*window, QRect(corner, window->size().boundedTo(room - QSize(step, step)).expandedTo({300, 200})));
+    const int titleBar = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window) + 4;
+    const QSize left = room - QSize(corner.x(), corner.y());
+    place(*window, QRect(corner, window->size().boundedTo(left).expandedTo({300, 200})));
     window->raise();
-    step = step + 2 * offset > room.height() / 2 ? 0 : step + offset;
+    corner += QPoint(std::clamp((room.width() - window->width()) / steps, 0, titleBar), titleBar);
   }
 }
 
@@ -56,16 +61,11 @@ void arrangeIcons(const QSize& room, const WindowList& icons) {
 }  // namespace
 
 void arrange(QMdiArea& area, const std::vector<ChildWindow*>& windows, Arrangement arrangement) {
+  if (arrangement == Arrangement::Icons) return arrangeIcons(area.viewport()->size(), those(windows, true));
+  for (auto* bar : {area.horizontalScrollBar(), area.verticalScrollBar()}) bar->setValue(0);
   const QSize room = area.contentsRect().size();
-  switch (arrangement) {
-    case Arrangement::Cascade:
-      return cascade(room, those(windows, false));
-    case Arrangement::TileHorizontally:
-    case Arrangement::TileVertically:
-      return tile(room, those(windows, false), arrangement == Arrangement::TileHorizontally);
-    case Arrangement::Icons:
-      return arrangeIcons(room, those(windows, true));
-  }
+  if (arrangement == Arrangement::Cascade) return cascade(room, those(windows, false));
+  tile(room, those(windows, false), arrangement == Arrangement::TileHorizontally);
 }
 
 }  // namespace orvane

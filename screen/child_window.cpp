@@ -51,18 +51,20 @@ void ChildWindow::answerEscape() {
           [this, cancel] { door_.act([cancel](User& user) { user.click(*cancel); }); });
 }
 
+void ChildWindow::measure() {
+  measureAnew(*pane_);
+  pane_->setFixedSize(pane_->size().expandedTo(pane_->sizeHint()));
+  adjustSize();
+}
+
 void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
   move(corner);
-  measureAnew(*pane_);
-  const QSize design = pane_->size().expandedTo(pane_->sizeHint());
-  pane_->setFixedSize(design);
-  adjustSize();
-  const QSize frame = size() - design;
   if (!form().isResizable()) return;
+  const QSize design = size();
+  const int contents = heightOfContents(form()) + design.height() - pane_->height();
   pane_->setMinimumSize(0, 0);
   pane_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  const int height = std::min(heightOfContents(form()), room.height() - corner.y() - frame.height());
-  resize(QSize(design.width(), std::max(design.height(), height)) + frame);
+  resize(design.width(), std::max(design.height(), std::min(contents, room.height() - corner.y())));
 }
 
 void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }

@@ -14,7 +14,9 @@ class ChildWindow final : public QMdiSubWindow {
   ChildWindow(Form& form, ScreenDoor& door);
 
   Form& form() const { return view_->form(); }
-  // At that corner of the room, with as much of the contents as there is room for.
+  // Takes the size that the form is designed for.
+  void measure();
+  // After that, at that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
   // Gives the keyboard to the widget that had it last, else to the first one.

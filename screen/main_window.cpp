@@ -7,10 +7,11 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollBar>
 #include <QShortcut>
+#include <QStyle>
 
 #include "canvas/qt_text.h"
 #include "screen/main_menu.h"
@@ -38,6 +39,16 @@ QRect onSomeScreen(QRect place) {
   return place;
 }
 
+// What a maximised window leaves behind: there is no setting that says so.
+bool fillsItsScreen(const QRect& place) {
+  constexpr int edges = 16, titleBar = 64;
+  const auto* screen = QGuiApplication::screenAt(place.center());
+  if (!screen) return false;
+  const QRect room = screen->availableGeometry();
+  return (place.topLeft() - room.topLeft()).manhattanLength() <= edges && place.width() >= room.width() - edges &&
+         place.height() >= room.height() - titleBar;
+}
+
 int stateNumber(Qt::WindowStates state) {
   if (state & Qt::WindowMinimized) return 1;
   return state & Qt::WindowMaximized ? 2 : 0;
@@ -46,41 +57,23 @@ int stateNumber(Qt::WindowStates state) {
 }  // namespace
 
 MainWindow::MainWindow(frmMain& frame, ScreenDoor& door)
-    : alive_(frame.shared_from_this()), frame_(frame), door_(door), area_(*new QMdiArea(this)) {
+    : alive_(frame.shared_from_this()), frame_(frame), door_(door), area_(*new WorkArea(this)) {
   setObjectName(toQt(frame_.Name()) + "_window");
   setWindowTitle(toQt(frame_.Caption()));
   setWindowIcon(QIcon(":/art/icons/orvane-128.png"));
-  area_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_.setActivationOrder(QMdiArea::ActivationHistoryOrder);
-  area_.setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
   setCentralWidget(&area_);
   fillMenu(*menuBar(), frame_, door_);
   addKeys();
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focus) { bringIntoSight(focus); });
+  connect(&area_, &QMdiArea::subWindowActivated, this, &MainWindow::showButtonsOf);
 }
 
-// What is deleted with it gives up the focus.
-MainWindow::~MainWindow() { disconnect(qApp, nullptr, this, nullptr); }
+// The children that are deleted with it are each the active one for a moment.
+MainWindow::~MainWindow() { disconnect(&area_, nullptr, this, nullptr); }
 
-namespace {
-
-void scrollBy(QScrollBar& bar, int before, int behind) {
-  if (before < 0) bar.setValue(bar.value() + before);
-  if (before >= 0 && behind > 0) bar.setValue(bar.value() + std::min(before, behind));
-}
-
-}  // namespace
-
-// Who goes on with the Tab key sees where, also where a child is larger than the window. What is clicked stays in
-// place.
-void MainWindow::bringIntoSight(const QWidget* focus) {
-  const auto* sight = area_.viewport();
-  const bool byMouse = QApplication::mouseButtons() != Qt::NoButton;
-  if (byMouse || !focus || !sight->isAncestorOf(focus)) return;
-  const QRect place(focus->mapTo(sight, QPoint()), focus->size());
-  scrollBy(*area_.horizontalScrollBar(), place.left(), place.right() - sight->width());
-  scrollBy(*area_.verticalScrollBar(), place.top(), place.bottom() - sight->height());
+// A maximised child has its buttons in the menu bar, but for as long as it is the active one.
+void MainWindow::showButtonsOf(const QMdiSubWindow* active) {
+  for (const auto corner : {Qt::TopLeftCorner, Qt::TopRightCorner})
+    if (auto* buttons = menuBar()->cornerWidget(corner)) buttons->setVisible(active && active->isMaximized());
 }
 
 void MainWindow::addKeys() {
@@ -106,10 +99,32 @@ void MainWindow::activateBeside(int step) {
 
 void MainWindow::open() {
   const QRect place = onSomeScreen(windowPlace(frame_.placement()));
-  resize(place.size());
+  const bool maximised = fillsItsScreen(place);
+  resize(maximised ? place.size() * 3 / 4 : place.size());
   move(place.topLeft());
+  if (maximised) setWindowState(Qt::WindowMaximized);
   show();
   open_ = true;
+  frame_.setWindowState(stateNumber(windowState()));
+}
+
+QSize MainWindow::largestRoom() const {
+  const QSize around = frameGeometry().size() - area_.contentsRect().size();
+  return takesAll() ? area_.contentsRect().size() : screen()->availableGeometry().size() - around;
+}
+
+void MainWindow::makeRoomFor(const QRect& part) {
+  const QSize room = largestRoom();
+  QSize wanted(part.right() + 1, part.bottom() + 1);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  wanted += QSize(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
+  wanted = wanted.boundedTo(room);
+  const QSize missing = (wanted - area_.contentsRect().size()).expandedTo({0, 0});
+  if (takesAll() || missing.isNull()) return;
+  resize(size() + missing);
+  const QRect limits = screen()->availableGeometry();
+  const QPoint lowest = limits.bottomRight() + QPoint(1, 1) - QPoint(frameGeometry().width(), frameGeometry().height());
+  move(std::max(limits.left(), std::min(x(), lowest.x())), std::max(limits.top(), std::min(y(), lowest.y())));
 }
 
 void MainWindow::end() {

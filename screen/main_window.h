@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QMdiArea>
 
 #include "screen/screen_door.h"
+#include "screen/work_area.h"
 #include "shell/frmMain.h"
 
 namespace orvane {
@@ -14,9 +14,13 @@ class MainWindow final : public QMainWindow {
   MainWindow(frmMain& frame, ScreenDoor& door);
   ~MainWindow() override;
 
-  QMdiArea& area() { return area_; }
+  WorkArea& area() { return area_; }
   // At the remembered place, as far as there is a screen for it.
   void open();
+  // What children can have at most, when the frame takes all that the screen has.
+  QSize largestRoom() const;
+  // Grows, as far as the screen allows, until that part of the area can be seen. Never shrinks.
+  void makeRoomFor(const QRect& part);
   // The form has ended.
   void end();
 
@@ -30,12 +34,13 @@ class MainWindow final : public QMainWindow {
   void addKeys();
   void activateBeside(int step);
   void reportPlacement();
-  void bringIntoSight(const QWidget* focus);
+  void showButtonsOf(const QMdiSubWindow* active);
+  bool takesAll() const { return isMaximized() || isFullScreen(); }
 
   std::shared_ptr<Form> alive_;
   frmMain& frame_;
   ScreenDoor& door_;
-  QMdiArea& area_;
+  WorkArea& area_;
   bool open_ = false;
 };
 

@@ -54,21 +54,26 @@ void Windows::showChild(Form& form) {
   if (!window) {
     window = new ChildWindow(form, door_);
     main_->area().addSubWindow(window, window->windowFlags());
-    window->openAt(freeCorner(), main_->area().viewport()->size());
+    window->measure();
+    window->openAt(cornerFor(*window), main_->largestRoom());
+    main_->makeRoomFor(window->geometry());
     children_.push_back(window);
   }
   window->show();
   bringToFront(*window);
 }
 
-// Beside the window opened last, so that the title bars of all can be seen.
-QPoint Windows::freeCorner() const {
+// Beside the windows that are open, so that something of each can be seen, and no further than it fits.
+QPoint Windows::cornerFor(const ChildWindow& window) const {
   constexpr int step = 28;
   const auto taken = [&](const QPoint& corner) {
-    return std::any_of(children_.begin(), children_.end(), [&](auto* window) { return window->pos() == corner; });
+    return std::any_of(children_.begin(), children_.end(), [&](auto* open) { return open->pos() == corner; });
   };
-  for (int i = 0; i < 8; ++i)
-    if (const QPoint corner(i * step, i * step); !taken(corner)) return corner;
+  const QSize spare = main_->largestRoom() - window.size();
+  for (int column = 0; column == 0 || column < spare.width(); column += step)
+    for (QPoint corner(column, 0); corner.x() <= spare.width() && corner.y() <= spare.height();
+         corner += QPoint(step, step))
+      if (!taken(corner)) return corner;
   return {};
 }
 

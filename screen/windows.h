@@ -40,7 +40,7 @@ class Windows final : public DesktopObserver {
   void showChild(Form& form);
   DialogWindow& openDialog(Form& form);
   void bringToFront(ChildWindow& window);
-  QPoint freeCorner() const;
+  QPoint cornerFor(const ChildWindow& window) const;
   void activatedByUser(QMdiSubWindow* window);
 
   Desktop& desktop_;

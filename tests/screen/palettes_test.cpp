@@ -102,6 +102,19 @@ TEST_F(Palettes, LetAClosedBoxBeRead) {
   });
 }
 
+TEST_F(Palettes, LetTheInvitationBeRead) {
+  auto& area = *mainWindow().area().viewport();
+  mainWindow().resize(433, 433);
+  const auto bestContrast = [&] {
+    QImage shown(area.size(), QImage::Format_RGB32);
+    area.render(&shown, {}, {}, QWidget::DrawWindowBackground);
+    return edge(shown, QRect(0, shown.height() * 2 / 3, shown.width(), 60), shown.pixelColor(0, 0));
+  };
+  EXPECT_EQ(bestContrast(), 1) << "not behind a window";
+  windows.childOf(character)->close();
+  onEach([&](const QPalette&) { EXPECT_GE(bestContrast(), 4.0); });
+}
+
 // The reddest point of a cell, selected or not; smoothing takes a little off thin strokes.
 TEST_F(Palettes, LetLevelsBeReadAsTheyArePainted) {
   pickTab(character, frmPersonnage::Competences);

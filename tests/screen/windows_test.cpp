@@ -2,9 +2,12 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 
+#include "sheet/frmFeuille.h"
 #include "tests/screen/desktop_fixture.h"
 
 namespace orvane::test {
@@ -101,9 +104,9 @@ TEST_F(MainWindows, ClosingItClosesAllAndRemembersThePlaceInTwips) {
   start("9000", "7500", "600", "450");
   EXPECT_EQ(mainWindow().pos(), QPoint(40, 30));
   EXPECT_EQ(mainWindow().size(), QSize(600, 500));
+  newCharacter();
   mainWindow().move(60, 50);
   mainWindow().resize(640, 520);
-  newCharacter();
   bool closed = false;
   windows.closed = [&] { closed = true; };
   mainWindow().close();
@@ -142,6 +145,67 @@ TEST_F(MainWindows, TilesHorizontallyAsRows) {
   EXPECT_EQ(windows.childOf(first)->geometry().bottom() + 1, room.height());
   EXPECT_EQ(windows.childOf(second)->y(), windows.childOf(first)->y());
   EXPECT_NE(windows.childOf(second)->x(), windows.childOf(first)->x());
+}
+
+TEST_F(MainWindows, GrowsForAChildAndStaysSo) {
+  start();
+  EXPECT_EQ(mainWindow().size(), QSize(433, 433));
+  auto& character = newCharacter();
+  const QSize grown = mainWindow().size();
+  const QRect screen = mainWindow().screen()->availableGeometry();
+  EXPECT_EQ(mainWindow().frameGeometry().width(), screen.width()) << "no wider than the screen";
+  EXPECT_LT(mainWindow().frameGeometry().height(), screen.height()) << "no higher than needed";
+  EXPECT_EQ(mainWindow().area().verticalScrollBar()->maximum(), 0);
+  windows.childOf(character)->close();
+  turn();
+  EXPECT_EQ(mainWindow().size(), grown);
+}
+
+TEST_F(MainWindows, ScrollsNoFurtherThanAFieldNeeds) {
+  start();
+  auto& character = newCharacter();
+  const auto* child = windows.childOf(character);
+  mainWindow().resize(500, 300);
+  find<QWidget>(character, "txtJoueur").setFocus();  // wide, at the left
+  EXPECT_EQ(child->pos(), QPoint(0, 0));
+  find<QWidget>(character, "cmdClose").setFocus();
+  EXPECT_LT(child->x(), 0);
+  find<QWidget>(character, "txtAge").setFocus();
+  EXPECT_EQ(child->pos(), QPoint(0, 0));
+  find<QWidget>(character, "cmdClose").setFocus();
+  mainWindow().resize(1200, 700);
+  EXPECT_EQ(child->pos(), QPoint(0, 0));
+}
+
+TEST_F(MainWindows, WhatWasMaximisedIsSoAgain) {
+  start("12000", "12000");
+  EXPECT_TRUE(mainWindow().isMaximized());
+}
+
+TEST_F(MainWindows, EveryCascadedWindowCanBeClosed) {
+  start();
+  for (int i = 0; i < 12; ++i) newCharacter();
+  mainWindow().resize(1300, 700);
+  menu("mnuWindowCascade");
+  auto* area = mainWindow().area().viewport();
+  for (auto* child : mainWindow().area().subWindowList()) {
+    const QWidget* seen = area->childAt(child->geometry().topRight() + QPoint(-10, 10));
+    EXPECT_TRUE(seen == child || child->isAncestorOf(seen)) << child->y();
+  }
+}
+
+TEST_F(MainWindows, AMaximisedChildLeavesTheMenuBarToTheActiveOne) {
+  start();
+  auto& character = newCharacter();
+  const auto sheet = std::make_shared<frmFeuille>(globals());
+  sheet->Show();
+  windows.childOf(*sheet)->showMaximized();
+  const auto* buttons = mainWindow().menuBar()->cornerWidget();
+  ASSERT_TRUE(buttons && buttons->isVisible());
+  perform([&] { user.activate(character); });
+  EXPECT_FALSE(buttons->isVisible());
+  perform([&] { user.activate(*sheet); });
+  EXPECT_TRUE(buttons->isVisible());
 }
 
 TEST_F(MainWindows, CharacterWindowsKeepTheirSize) {
