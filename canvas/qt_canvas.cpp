@@ -24,24 +24,29 @@ QImage atSheetResolution(QImage picture) {
 }  // namespace
 
 QtCanvas::QtCanvas(const QImage& picture)
-    : image_(atSheetResolution(picture)), font_(sheetFont("Times New Roman", 10)), metrics_(font_, &image_) {}
+    : image_(atSheetResolution(picture)), font_(sheetFont(10)), metrics_(font_, &image_) {}
 
 float QtCanvas::width() const { return static_cast<float>(image_.width()) * twipsPerPixel; }
 float QtCanvas::height() const { return static_cast<float>(image_.height()) * twipsPerPixel; }
 
-void QtCanvas::setFont(const std::string& name, float points) {
-  font_ = sheetFont(name, points);
+void QtCanvas::setFont(const std::string&, float points) {
+  font_ = sheetFont(points);
   metrics_ = QFontMetricsF(font_, &image_);
 }
 
 float QtCanvas::TextWidth(std::string_view text) const {
+  const SheetFontRules rules;
   return static_cast<float>(metrics_.horizontalAdvance(toQt(text))) * twipsPerPixel;
 }
 
-float QtCanvas::TextHeight(std::string_view) const { return static_cast<float>(metrics_.height()) * twipsPerPixel; }
+float QtCanvas::TextHeight(std::string_view) const {
+  const SheetFontRules rules;
+  return static_cast<float>(metrics_.height()) * twipsPerPixel;
+}
 
 void QtCanvas::print(std::string_view text, float x, float y) {
   if (text.empty()) return;
+  const SheetFontRules rules;
   QPainter painter(&image_);
   painter.setFont(font_);
   painter.setPen(Qt::black);

@@ -15,6 +15,7 @@ class QtCanvas : public Canvas {
 
   float width() const override;
   float height() const override;
+  // Whatever its name, the font is that of sheets.
   void setFont(const std::string& name, float points) override;
   float TextWidth(std::string_view text) const override;
   float TextHeight(std::string_view text) const override;

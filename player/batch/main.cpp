@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "canvas/qt_pictures.h"
+#include "canvas/sheet_font.h"
 #include "player/play_scripts.h"
 #include "surface/disk_files.h"
 #include "surface/system_clock.h"
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
   // Only the streams' own buffers tell a reader that standard input has failed.
   std::ios::sync_with_stdio(false);
   const std::vector<std::string> arguments(argv + 1, argv + argc);
+  orvane::forgetGlyphSettings();
   // Pictures need no screen, whatever the session's own settings ask for.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");

@@ -1,8 +1,10 @@
 #include <QApplication>
 
+#include "canvas/sheet_font.h"
 #include "screen/program.h"
 
 int main(int argc, char* argv[]) {
+  orvane::forgetGlyphSettings();
   QApplication application(argc, argv);
   QApplication::setApplicationName("Orvane");
   QApplication::setDesktopFileName("orvane");

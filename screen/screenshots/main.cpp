@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "canvas/sheet_font.h"
 #include "screen/program.h"
 #include "screen/screenshots/tour.h"
 #include "screen/themes.h"
@@ -17,6 +18,7 @@ bool isWanted(const orvane::Theme& theme, const QStringList& names) {
 
 // orvane-screenshots FOLDER SCRIPT [THEME...], in the folder of the data files. QT_SCALE_FACTOR is heeded.
 int main(int argc, char* argv[]) {
+  orvane::forgetGlyphSettings();
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -5,12 +5,15 @@
 
 #include <QGuiApplication>
 
+#include "canvas/sheet_font.h"
+
 namespace orvane::test {
 
 // Fonts need an application, which has to go before main returns.
 class Gui : public testing::Environment {
  public:
   void SetUp() override {
+    forgetGlyphSettings();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QGuiApplication>(count_, arguments_);
   }

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "canvas/sheet_font.h"
 #include "screen/program.h"
 
 namespace orvane::test {
@@ -12,6 +13,7 @@ namespace {
 class Application : public ::testing::Environment {
  public:
   void SetUp() override {
+    forgetGlyphSettings();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(count_, arguments_);
     QApplication::setQuitOnLastWindowClosed(false);
