@@ -12,6 +12,9 @@ if(ORVANE_SANITIZE)
   target_compile_options(orvane_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orvane_build INTERFACE -fsanitize=address,undefined)
 endif()
+if(ORVANE_FUZZ)
+  target_compile_options(orvane_build INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # Precompiled once for all that need no Qt, once with Qt, and the same for the tests. Not under ccache: g++ writes no two
 # precompiled headers alike, so that one clone could use nothing of what was compiled in another.
