@@ -62,7 +62,7 @@ void ChildWindow::openAt(const QPoint& corner, const QSize& room) {
   if (!form().isResizable()) return;
   const QSize design = size();
   const int contents = heightOfContents(form()) + design.height() - pane_->height();
-  pane_->setMinimumSize(0, 0);
+  pane_->setMinimumSize(pane_->width(), 0);  // its strip of buttons stays whole
   pane_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   resize(design.width(), std::max(design.height(), std::min(contents, room.height() - corner.y())));
 }

@@ -14,7 +14,7 @@ class ChildWindow final : public QMdiSubWindow {
   ChildWindow(Form& form, ScreenDoor& door);
 
   Form& form() const { return view_->form(); }
-  // Takes the size that the form is designed for.
+  // Takes the size that the form is designed for; a form of a fixed size keeps it.
   void measure();
   // After that, at that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);

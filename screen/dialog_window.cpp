@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLayout>
+#include <QPainter>
 #include <QPointer>
 #include <QScreen>
 #include <QWindow>
@@ -12,6 +13,7 @@
 #include "canvas/qt_text.h"
 #include "screen/layouts.h"
 #include "screen/pointer_shape.h"
+#include "screen/readable_colours.h"
 #include "surface/command_button.h"
 
 namespace orvane {
@@ -19,10 +21,20 @@ namespace orvane {
 DialogWindow::DialogWindow(Form& form, ScreenDoor& door, QWidget* parent) : QDialog(parent), door_(door) {
   layOut(form, *this);
   setObjectName(toQt(form.Name()) + "_window");
-  // A dialog without a caption has no frame either.
-  if (form.Caption().empty()) setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  frameless_ = form.Caption().empty();
+  // A dialog without a caption has no frame either; it stands in the middle of the screen, with an edge of its own.
+  if (frameless_) setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
   view_ = std::make_unique<FormView>(form, *this, door);
   showCaption();
+}
+
+void DialogWindow::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  if (!frameless_) return;
+  const QColor ground = palette().color(QPalette::Window);
+  QPainter painter(this);
+  painter.setPen(readable(ground, ground, 3));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void DialogWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
@@ -30,7 +42,7 @@ void DialogWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 void DialogWindow::centre() {
   measureAnew(*this);
   adjustSize();
-  const auto* over = parentWidget();
+  const auto* over = frameless_ ? nullptr : parentWidget();
   const QRect room = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();
   const QRect limits = screen()->availableGeometry();
   QRect place(QPoint(), size());

@@ -31,12 +31,14 @@ class DialogWindow final : public QDialog {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void close();
   void centre();
 
   ScreenDoor& door_;
+  bool frameless_ = false;
   std::unique_ptr<FormView> view_;
   QEventLoop* loop_ = nullptr;
 };

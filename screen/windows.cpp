@@ -1,10 +1,13 @@
 #include "screen/windows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "screen/arranging.h"
+#include "sheet/frmFeuille.h"
 
 namespace orvane {
 namespace {
@@ -54,22 +57,53 @@ void Windows::showChild(Form& form) {
   if (!window) {
     window = new ChildWindow(form, door_);
     main_->area().addSubWindow(window, window->windowFlags());
-    window->measure();
-    window->openAt(cornerFor(*window), main_->largestRoom());
-    main_->makeRoomFor(window->geometry());
+    place(*window);
     children_.push_back(window);
   }
   window->show();
   bringToFront(*window);
 }
 
-// Beside the windows that are open, so that something of each can be seen, and no further than it fits.
+// Where the one stood that it replaces, as large, and with the same side of the sheet in front.
+void Windows::place(ChildWindow& window) {
+  window.measure();
+  const auto former = std::exchange(vacated_, std::nullopt);
+  const bool replaces = former && former->name == window.form().Name();
+  window.openAt(replaces ? former->place.topLeft() : cornerFor(window), main_->largestRoom());
+  if (!replaces) return main_->makeRoomFor(window.geometry());
+  if (former->maximised)
+    window.showMaximized();
+  else
+    window.setGeometry(former->place);
+  auto* sheet = dynamic_cast<frmFeuille*>(&window.form());
+  if (former->verso && sheet)
+    QTimer::singleShot(0, &window, [this, sheet] { door_.act([&](User& user) { user.click(sheet->optFeuille(1)); }); });
+}
+
+void Windows::noteVacated(const ChildWindow& window) {
+  const auto* sheet = dynamic_cast<const frmFeuille*>(&window.form());
+  if (!sheet || window.isMinimized()) return;
+  vacated_ = {sheet->Name(), window.geometry(), window.isMaximized(), sheet->optFeuille(1).Value()};
+  QTimer::singleShot(0, main_.get(), [this] { vacated_.reset(); });
+}
+
+// A sheet stands beside its character where there is room.
 QPoint Windows::cornerFor(const ChildWindow& window) const {
+  const auto* active = desktop_.activeChild() ? childOf(*desktop_.activeChild()) : nullptr;
+  if (!active || active->isMinimized() || !window.form().isResizable()) return freeCorner(window.size());
+  const QRect beside(active->geometry().topRight() + QPoint(1, 0), window.size());
+  const QSize room = main_->largestRoom();
+  const bool fits = beside.right() < room.width() && beside.bottom() < room.height();
+  return fits ? beside.topLeft() : freeCorner(window.size());
+}
+
+// Beside the windows that are open, so that something of each can be seen, and no further than it fits.
+QPoint Windows::freeCorner(const QSize& size) const {
   constexpr int step = 28;
   const auto taken = [&](const QPoint& corner) {
     return std::any_of(children_.begin(), children_.end(), [&](auto* open) { return open->pos() == corner; });
   };
-  const QSize spare = main_->largestRoom() - window.size();
+  const QSize spare = main_->largestRoom() - size;
   for (int column = 0; column == 0 || column < spare.width(); column += step)
     for (QPoint corner(column, 0); corner.x() <= spare.width() && corner.y() <= spare.height();
          corner += QPoint(step, step))
@@ -89,6 +123,7 @@ void Windows::runModal(Form& form) {
 void Windows::unloaded(Form& form) {
   const QScopedValueRollback following(following_, true);
   if (auto* child = childOf(form)) {
+    noteVacated(*child);
     std::erase(children_, child);
     child->end();
     main_->area().removeSubWindow(child);

@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "screen/child_window.h"
@@ -40,7 +42,10 @@ class Windows final : public DesktopObserver {
   void showChild(Form& form);
   DialogWindow& openDialog(Form& form);
   void bringToFront(ChildWindow& window);
+  void place(ChildWindow& window);
+  void noteVacated(const ChildWindow& window);
   QPoint cornerFor(const ChildWindow& window) const;
+  QPoint freeCorner(const QSize& size) const;
   void activatedByUser(QMdiSubWindow* window);
 
   Desktop& desktop_;
@@ -49,6 +54,14 @@ class Windows final : public DesktopObserver {
   // Those of unloaded forms are gone from here, and deleted later by Qt.
   std::vector<ChildWindow*> children_;
   std::vector<DialogWindow*> dialogs_;
+  // What a form closed by the act that still runs leaves to the next one of its kind.
+  struct Vacated {
+    std::string name;
+    QRect place;
+    bool maximised;
+    bool verso;
+  };
+  std::optional<Vacated> vacated_;
   // True while Qt follows the desktop and not the user.
   bool following_ = false;
 };

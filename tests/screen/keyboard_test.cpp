@@ -110,7 +110,10 @@ TEST_F(Keyboard, LabelsThatTellSomethingAreReachedToo) {
 TEST_F(Keyboard, EnterAndEscapeCloseAbout) {
   start("15000", "10500");
   for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
-    onceOpen<DialogWindow>([&](DialogWindow& about) { QTest::keyClick(&about, key); });
+    onceOpen<DialogWindow>([&](DialogWindow& about) {
+      EXPECT_LE((about.geometry().center() - about.screen()->availableGeometry().center()).manhattanLength(), 2);
+      QTest::keyClick(&about, key);
+    });
     menu("mnuHelpAbout");
     turn();
     EXPECT_FALSE(run.desktop().modal());
@@ -120,6 +123,7 @@ TEST_F(Keyboard, EnterAndEscapeCloseAbout) {
 TEST_F(Keyboard, TheFocusComesIntoSight) {
   start("6500", "6500");
   auto& character = newCharacter();
+  mainWindow().resize(433, 433);
   find<QWidget>(character, "txtJoueur").setFocus(Qt::TabFocusReason);
   const auto* sight = mainWindow().area().viewport();
   for (const auto& name : round(Qt::Key_Tab)) {

@@ -19,6 +19,7 @@
 #include "screen/list_delegate.h"
 #include "screen/measures.h"
 #include "screen/readable_colours.h"
+#include "sheet/frmFeuille.h"
 #include "surface/check_box.h"
 #include "surface/combo_box.h"
 #include "surface/command_button.h"
@@ -119,7 +120,12 @@ class Comparison {
     if (control.widthTwips() <= 0 || control.heightTwips() <= 0) return;
     same("place", widget.geometry(),
          QRect(pixels(control.leftTwips()), pixels(control.topTwips()), pixels(control.widthTwips()),
-               pixels(control.heightTwips())));
+               pixels(control.heightTwips()) + freeBelow(control)));
+  }
+  // What the hidden bar below leaves to the one at the side.
+  static int freeBelow(const PlacedControl& control) {
+    const auto* sheet = dynamic_cast<const frmFeuille*>(&control.form());
+    return sheet && &control == &sheet->VScroll && !sheet->HScroll.Visible() ? pixels(sheet->HScroll.heightTwips()) : 0;
   }
   void tabs(const TabControl& tabs, const QTabWidget& widget) {
     same("Tab", widget.currentIndex(), tabs.Tab());

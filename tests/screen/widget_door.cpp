@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include "canvas/qt_text.h"
+#include "screen/measures.h"
 #include "screen/screen_dialogs.h"
 #include "surface/combo_box.h"
 #include "surface/list_box.h"
@@ -62,6 +63,7 @@ class WidgetUser final : public User {
   void check(Control& control);
   // Lets the screen catch up, and gives the keyboard to the window of the form.
   void settle(Form& form);
+  void fitSheets();
   // Lets the screen catch up, and compares all of it with the forms.
   void look();
   QWidget* windowOf(const Form& form) const;
@@ -82,7 +84,16 @@ QWidget* WidgetUser::windowOf(const Form& form) const {
   return form.role() == Form::Role::Frame ? windows_.mainWindow() : test::windowOf(windows_, form);
 }
 
+// What is laid down of the places and ranges of bars is shown as it stands at the size of the design.
+void WidgetUser::fitSheets() {
+  turn();
+  for (const auto& form : desktop_.Forms())
+    if (auto* child = windows_.childOf(*form); child && form->isResizable())
+      child->resize(child->size() - beyondDesign(*form, *child->widget()));
+}
+
 void WidgetUser::look() {
+  fitSheets();
   turn();
   EXPECT_EQ(unlike(desktop_, windows_), "");
   expectSecretsKept();
