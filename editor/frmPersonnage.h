@@ -110,7 +110,7 @@ class frmPersonnage : public Form {
   // --- Skills (skills.cpp)
   Label Label4{onTab(Competences), "Label4", {"Points restants"}};
   TextBox txtSkillRest{onTab(Competences), "txtSkillRest"};
-  ListView lvwSkillGen{onTab(Competences), "lvwSkillGen", {.width = 6000, .labelEdit = true}};
+  ListView lvwSkillGen{onTab(Competences), "lvwSkillGen", {.width = 6000, .labelEdit = true, .longestLabel = 25}};
   Family<CommandButton> cmdSkillGenModif{onTab(Competences), "cmdSkillGenModif", {leftArrow, rightArrow}};
   Label Label22{onTab(Competences), "Label22", {"Profil"}};
   Label txtSkillPro{onTab(Competences), "txtSkillPro"};

@@ -7,8 +7,6 @@
 namespace orvane {
 namespace {
 
-constexpr std::size_t longestSkillName = 25;
-
 double level(const ListItem& row) { return number(row, SkillRow::Level); }
 double key(const ListItem& row) { return number(row, SkillRow::Key); }
 
@@ -88,7 +86,8 @@ void frmPersonnage::lvwSkillGen_BeforeLabelEdit(bool& Cancel) {
 }
 
 void frmPersonnage::lvwSkillGen_AfterLabelEdit(bool&, std::string& NewString) {
-  if (characterCount(NewString) > longestSkillName) NewString = firstCharacters(NewString, longestSkillName);
+  const auto longest = static_cast<std::size_t>(lvwSkillGen.longestLabel());
+  if (characterCount(NewString) > longest) NewString = firstCharacters(NewString, longest);
 }
 
 bool frmPersonnage::prcSkillNotOnSheet(const ListItem& itm) const {

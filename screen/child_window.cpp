@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QLayout>
+#include <QMenu>
 #include <QShortcut>
 
 #include "canvas/qt_text.h"
 #include "screen/layouts.h"
 #include "screen/measures.h"
+#include "screen/tab_stops.h"
 #include "surface/command_button.h"
 #include "surface/picture_box.h"
 
@@ -38,6 +41,8 @@ ChildWindow::ChildWindow(Form& form, ScreenDoor& door) : door_(door), pane_(new 
   setWindowFlags(frameFlags(form.isResizable()));
   setWindowIcon(QIcon(":/art/icons/orvane-16.png"));
   setObjectName(toQt(form.Name()) + "_window");
+  // Qt would close the window by keys of its own, also while the user types.
+  for (auto* entry : systemMenu()->actions()) entry->setShortcuts(QList<QKeySequence>());
   view_ = std::make_unique<FormView>(form, *pane_, door);
   showCaption();
   answerEscape();
@@ -71,8 +76,7 @@ void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 
 void ChildWindow::takeKeyboard() {
   QWidget* taker = focusWidget();
-  for (auto* next = pane_->nextInFocusChain(); !taker && pane_->isAncestorOf(next); next = next->nextInFocusChain())
-    if (next->focusPolicy() & Qt::TabFocus && next->isEnabled() && next->isVisibleTo(pane_)) taker = next;
+  if (!taker) taker = tabStopBehind(*pane_, *pane_);
   (taker ? taker : this)->setFocus(Qt::OtherFocusReason);
 }
 

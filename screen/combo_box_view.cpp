@@ -7,9 +7,20 @@
 #include <QSignalBlocker>
 
 #include "canvas/qt_text.h"
+#include "screen/line_edits.h"
 #include "screen/readable_colours.h"
 
 namespace orvane {
+namespace {
+
+// Who rolls the page with the pointer above a box does not mean to pick another entry, which may cost all skills.
+bool rollPast(QEvent& event) {
+  if (event.type() != QEvent::Wheel) return false;
+  event.ignore();  // the page below rolls
+  return true;
+}
+
+}  // namespace
 
 ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
     : View(box, combo, form), box_(box), combo_(combo) {
@@ -17,20 +28,14 @@ ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
   combo_.setInsertPolicy(QComboBox::NoInsert);
   if (box_.editable()) combo_.setCompleter(nullptr);  // it would type what the user has not typed
   combo_.setFocusPolicy(Qt::StrongFocus);
-  onEvent(combo_, [this](QEvent& event) { return wheelWithoutFocus(event); });
+  onEvent(combo_, rollPast);
   on(&combo_, &QComboBox::activated, [this](int index) { act([&](User& user) { user.pick(box_, index); }); });
   if (auto* edit = combo_.lineEdit()) {
+    keepToOneLine(*edit);
+    onEvent(combo_, [this, edit](QEvent& event) { return enteredAtEnd(combo_, *edit, event); });
     edit->setAccessibleName(QAccessible::queryAccessibleInterface(&combo_)->text(QAccessible::Name));
-    on(edit, &QLineEdit::textEdited,
-       [this](const QString& text) { act([&](User& user) { user.type(box_, fromQt(text)); }); });
+    on(edit, &QLineEdit::textEdited, [this, edit] { act([&](User& user) { user.type(box_, fromQt(edit->text())); }); });
   }
-}
-
-// Who rolls the page with the pointer above a box does not mean to pick another entry.
-bool ComboBoxView::wheelWithoutFocus(QEvent& event) const {
-  if (event.type() != QEvent::Wheel || combo_.hasFocus()) return false;
-  event.ignore();  // the page below rolls
-  return true;
 }
 
 bool ComboBoxView::entriesDiffer() const {

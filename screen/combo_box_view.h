@@ -16,7 +16,6 @@ class ComboBoxView final : public View {
   void showEntries();
   void showSelection();
   bool entriesDiffer() const;
-  bool wheelWithoutFocus(QEvent& event) const;
 
   ComboBox& box_;
   QComboBox& combo_;

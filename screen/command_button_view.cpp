@@ -6,16 +6,19 @@
 #include <QStyle>
 
 #include "canvas/qt_text.h"
+#include "screen/form_view.h"
 #include "screen/pointer_shape.h"
+#include "screen/tab_stops.h"
 
 namespace orvane {
 
 CommandButtonView::CommandButtonView(CommandButton& command, QAbstractButton& button, FormView& form)
-    : View(command, button, form), command_(command), button_(button) {
+    : View(command, button, form), command_(command), button_(button), passing_(*new QShortcut(button.parentWidget())) {
   button_.setFocusPolicy(Qt::StrongFocus);
   if (command_.picture() != CommandButton::Picture::None) showArrow();
   on(&button_, &QAbstractButton::clicked, [this] { click(); });
   onEvent(button_, [this](QEvent& event) { return enterPressed(event); });
+  on(&passing_, &QShortcut::activated, [this] { passOn(); });
 }
 
 void CommandButtonView::showArrow() {
@@ -27,6 +30,15 @@ void CommandButtonView::showArrow() {
 void CommandButtonView::show() {
   if (const QString caption = toQt(command_.Caption()); !caption.isEmpty() && button_.text() != caption)
     button_.setText(caption);
+  keepLetter();
+}
+
+void CommandButtonView::keepLetter() {
+  passing_.setKey(command_.Enabled() ? QKeySequence() : QKeySequence::mnemonic(button_.text()));
+}
+
+void CommandButtonView::passOn() {
+  if (auto* next = tabStopBehind(button_, form().root())) next->setFocus(Qt::ShortcutFocusReason);
 }
 
 // Qt itself lets Enter press buttons in dialogs only.

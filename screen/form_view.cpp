@@ -78,13 +78,22 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
         reason == Qt::ShortcutFocusReason)
       focusEntered(watched);
+    else
+      focusReturned();
   } else if (watched == &root_ && event->type() == QEvent::PaletteChange) {
     for (auto& view : views_) schedule(*view);
   }
   return false;
 }
 
+void FormView::focusReturned() {
+  if (auto* heir = std::exchange(heir_, nullptr).data())
+    QMetaObject::invokeMethod(
+        heir, [heir] { heir->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
+}
+
 void FormView::focusEntered(QObject* widget) {
+  heir_ = nullptr;
   for (auto& view : views_) {
     if (!view->control().takesFocus() || &view->focusWidget() != widget) continue;
     view->act([&](User& user) { user.focus(view->control()); });

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 
 #include "screen/screen_door.h"
@@ -33,6 +34,8 @@ class FormView : public QObject {
   // Shows now what waits for the next turn.
   void flush();
   void detach();
+  // For a widget that had the keyboard, in a way, when another window took it.
+  void giveKeyboardOnReturn(QWidget& heir) { heir_ = &heir; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -41,12 +44,14 @@ class FormView : public QObject {
   void followFocus();
   void syncAll();
   void focusEntered(QObject* widget);
+  void focusReturned();
 
   std::shared_ptr<Form> form_;
   QWidget& root_;
   ScreenDoor& door_;
   std::vector<std::unique_ptr<View>> views_;
   std::vector<View*> dirty_;
+  QPointer<QWidget> heir_;
   bool flushPosted_ = false;
   bool syncing_ = false;
   bool detached_ = false;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "screen/line_edits.h"
 #include "screen/readable_colours.h"
 
 namespace orvane {
@@ -22,6 +23,16 @@ void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   QStyledItemDelegate::initStyleOption(option, index);
   const QVariant colour = index.data(cellColourRole);
   if (colour.isValid()) colourText(option->palette, static_cast<Colour>(colour.toUInt()));
+}
+
+QWidget* ListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+  auto* editor = QStyledItemDelegate::createEditor(parent, option, index);
+  if (auto* edit = qobject_cast<QLineEdit*>(editor)) {
+    edit->setMaxLength(longest_);
+    keepToOneLine(*edit);
+  }
+  return editor;
 }
 
 bool ListDelegate::eventFilter(QObject* editor, QEvent* event) {

@@ -14,7 +14,10 @@ class ListDelegate final : public QStyledItemDelegate {
  public:
   using Typed = std::function<void(const QString&)>;
 
-  explicit ListDelegate(Typed typed) : typed_(std::move(typed)) {}
+  // At most so many characters can be typed into a name.
+  ListDelegate(int longest, Typed typed) : longest_(longest), typed_(std::move(typed)) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
@@ -24,6 +27,7 @@ class ListDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
+  int longest_;
   Typed typed_;
 };
 

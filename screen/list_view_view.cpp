@@ -10,6 +10,7 @@
 #include <QSignalBlocker>
 
 #include "canvas/qt_text.h"
+#include "screen/form_view.h"
 #include "screen/measures.h"
 #include "surface/desktop.h"
 
@@ -27,7 +28,7 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   tree_.header()->setStretchLastSection(false);
   tree_.header()->setMinimumSectionSize(0);
   tree_.setItemDelegate(&delegate_);
-  on(&delegate_, &QAbstractItemDelegate::closeEditor, [this] { edited_.reset(); });
+  on(&delegate_, &QAbstractItemDelegate::closeEditor, [this] { editClosed(); });
   secondClick_.setSingleShot(true);
   secondClick_.setInterval(QApplication::doubleClickInterval());
   on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });
@@ -35,6 +36,10 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   onEvent(tree_, [this](QEvent& event) { return treeEvent(event); });
   // With the mouse seen to above, only keys, type-ahead and screen readers move the current row.
   on(&tree_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) { clickRow(item); });
+}
+
+ListViewView::~ListViewView() {
+  if (edited_) form().door().keepEditOpen({});
 }
 
 // --- What the control says
@@ -225,11 +230,27 @@ void ListViewView::beginEdit() {
   });
   if (!allowed || isDetached()) return;
   edited_ = list_.SelectedItem();
-  tree_.editItem(tree_.topLevelItem(edited_->Index() - 1), 0);
+  auto* row = tree_.topLevelItem(edited_->Index() - 1);
+  tree_.editItem(row, 0);
+  // Whatever the user does next, the name counts first: that act may take the editor away.
+  form().door().keepEditOpen([this, index = tree_.indexFromItem(row)] {
+    auto* editor = tree_.indexWidget(index);
+    if (!editor) return;
+    emit delegate_.commitData(editor);
+    emit delegate_.closeEditor(editor);
+  });
 }
 
 void ListViewView::endEdit(const QString& text) {
+  form().door().keepEditOpen({});
   if (auto row = std::exchange(edited_, nullptr)) act([&](User&) { list_.endEdit(row, fromQt(text)); });
+}
+
+void ListViewView::editClosed() {
+  form().door().keepEditOpen({});
+  edited_.reset();
+  // The editor has lost the keyboard to another window.
+  if (!tree_.hasFocus()) form().giveKeyboardOnReturn(tree_);
 }
 
 }  // namespace orvane

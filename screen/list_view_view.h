@@ -13,6 +13,7 @@ namespace orvane {
 class ListViewView final : public View {
  public:
   ListViewView(ListView& list, QTreeWidget& tree, FormView& form);
+  ~ListViewView() override;
 
  private:
   void show() override;
@@ -32,13 +33,14 @@ class ListViewView final : public View {
   // Of the selected row, whose name the user has asked for.
   void beginEdit();
   void endEdit(const QString& text);
+  void editClosed();
   int positionOf(QTreeWidgetItem* item) const { return tree_.indexOfTopLevelItem(item) + 1; }
 
   ListView& list_;
   QTreeWidget& tree_;
   ListItemRef edited_;
   // Ends with the view: an editor that is still open hands its text to nobody.
-  ListDelegate delegate_{[this](const QString& text) { endEdit(text); }};
+  ListDelegate delegate_{list_.longestLabel(), [this](const QString& text) { endEdit(text); }};
   // The click that brought the focus is none for the name.
   bool entered_ = false;
   QTimer secondClick_;

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "canvas/qt_pictures.h"
+#include "screen/end_requests.h"
 #include "screen/qt_settings.h"
 #include "screen/readable_style.h"
 #include "screen/screen_dialogs.h"
@@ -27,6 +28,7 @@ int runProgram() {
   Windows windows(run.desktop());
   windows.closed = [] { QCoreApplication::quit(); };
   dialogs.setWindows(windows);
+  const EndRequests endRequests(windows);
   run.desktop().perform([&run] { run.Main(); });
   return run.mainWindow() ? QApplication::exec() : 1;
 }

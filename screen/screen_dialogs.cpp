@@ -85,6 +85,8 @@ Answer ScreenDialogs::MsgBox(const std::string& prompt, BoxStyle style, const st
   QMessageBox box(icon(style), toQt(title), shownLines(prompt), buttons(style), parent);
   box.setTextFormat(Qt::PlainText);
   sayInFrench(box);
+  // What is asked so cannot be undone: Enter alone does not say yes.
+  if (style == BoxStyle::YesNo) box.setDefaultButton(QMessageBox::No);
   return answerOf(box.exec());
 }
 

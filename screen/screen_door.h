@@ -18,12 +18,16 @@ class ScreenDoor {
   // False when the act was refused. Nothing is ever thrown.
   bool act(const Deed& deed);
 
+  // How to end an edit whose text does not count yet: called ahead of the next act. None where no edit is open.
+  void keepEditOpen(std::function<void()> end) { endEdit_ = std::move(end); }
+
   void suspend() { ++suspended_; }
   void resume() { --suspended_; }
 
  private:
   Desktop& desktop_;
   User user_;
+  std::function<void()> endEdit_;
   int suspended_ = 0;
 };
 

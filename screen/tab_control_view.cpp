@@ -1,5 +1,6 @@
 #include "screen/tab_control_view.h"
 
+#include <QAbstractButton>
 #include <QMouseEvent>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -39,6 +40,18 @@ void TabControlView::show() {
     if (bar->isTabVisible(i) != tabs_.TabVisible(i)) bar->setTabVisible(i, tabs_.TabVisible(i));
   }
   if (widget_.currentIndex() != tabs_.Tab()) widget_.setCurrentIndex(tabs_.Tab());
+  shareLetters();
+}
+
+void TabControlView::shareLetters() const {
+  QList<QKeySequence> borne;
+  for (const auto* button : widget_.currentWidget()->findChildren<QAbstractButton*>())
+    borne << QKeySequence::mnemonic(button->text());
+  for (auto* button : widget_.parentWidget()->findChildren<QAbstractButton*>()) {
+    if (widget_.isAncestorOf(button)) continue;
+    const auto letter = QKeySequence::mnemonic(button->text());
+    button->setShortcut(borne.contains(letter) ? QKeySequence() : letter);
+  }
 }
 
 bool TabControlView::barEvent(QEvent& event) {

@@ -18,6 +18,8 @@ class TabControlView final : public View {
 
  private:
   void show() override;
+  // A letter that a button of the open tab bears is that button's alone.
+  void shareLetters() const;
   bool barEvent(QEvent& event);
   bool pressed(const QMouseEvent& event);
   bool keyPressed(const QKeyEvent& event);

@@ -6,6 +6,7 @@
 #include <QTextCursor>
 
 #include "canvas/qt_text.h"
+#include "screen/line_edits.h"
 #include "screen/readable_colours.h"
 
 namespace orvane {
@@ -22,8 +23,9 @@ QString linesIn(const QPlainTextEdit& edit) {
 LineEditView::LineEditView(TextBox& box, QLineEdit& edit, FormView& form)
     : View(box, edit, form), box_(box), edit_(edit) {
   edit_.setReadOnly(box_.readOnly());
-  on(&edit_, &QLineEdit::textEdited,
-     [this](const QString& text) { act([&](User& user) { user.type(box_, fromQt(text)); }); });
+  keepToOneLine(edit_);
+  onEvent(edit_, [this](QEvent& event) { return enteredAtEnd(edit_, edit_, event); });
+  on(&edit_, &QLineEdit::textEdited, [this] { act([&](User& user) { user.type(box_, fromQt(edit_.text())); }); });
 }
 
 void LineEditView::show() {

@@ -39,6 +39,7 @@ class View : public ControlObserver {
   virtual void show() = 0;
 
   bool isDetached() const { return detached_; }
+  FormView& form() const { return form_; }
   // Of another control of the form; none when it is not on the screen.
   View* viewOf(const Control& other) const;
 

@@ -18,7 +18,8 @@ class ListView : public Control {
   struct Design {
     float width = 0;  // twips
     bool checkBoxes = false;
-    bool labelEdit = false;  // the names are edited in place, as far as BeforeLabelEdit allows
+    bool labelEdit = false;    // the names are edited in place, as far as BeforeLabelEdit allows
+    int longestLabel = 32767;  // characters that the user can type into a name
   };
 
   ListView(Place place, std::string name, Design design = byDefault<Design>());
@@ -28,6 +29,7 @@ class ListView : public Control {
   float Width() const { return design_.width; }
   bool checkBoxes() const { return design_.checkBoxes; }
   bool labelEdit() const { return design_.labelEdit; }
+  int longestLabel() const { return design_.longestLabel; }
 
   const std::vector<ColumnHeader>& ColumnHeaders() const { return columns_; }
   void clearColumnHeaders();

@@ -61,7 +61,8 @@ void User::focus(Control& control) {
 void User::activate(Form& form) {
   requireOpen(form);
   if (form.role() != Form::Role::Child) throw Refusal{"La fenêtre « " + form.title() + " » ne s'active pas."};
-  desktop_.perform([&] { desktop_.activate(form); });
+  // The active one may be an icon, which its list of windows brings back.
+  desktop_.perform([&] { desktop_.activeChild() == &form ? desktop_.show(form) : desktop_.activate(form); });
 }
 
 void User::close(Form& form) {

@@ -23,7 +23,8 @@ class ScreenBoxes : public DesktopFixture {
     std::string about;
     onceOpen<QMessageBox>([&](QMessageBox& box) {
       about = box.windowTitle().toStdString() + "|" + box.text().toStdString() + "|" + std::to_string(box.icon());
-      for (auto* button : box.buttons()) about += "|" + button->text().toStdString();
+      for (auto* button : box.buttons())
+        about += "|" + button->text().toStdString() + (button == box.defaultButton() ? "*" : "");
       QTest::mouseClick(box.button(press), Qt::LeftButton);
     });
     const Answer answer = dialogs.MsgBox("<b>un</b>\r\ndeux", style, "Tessaly");
@@ -38,8 +39,8 @@ TEST_F(ScreenBoxes, HaveTheIconAndButtonsOfTheirStyle) {
   EXPECT_EQ(shown(BoxStyle::Exclamation, QMessageBox::Ok), text + "2|OK -> 1");
   EXPECT_EQ(shown(BoxStyle::Critical, QMessageBox::Ok), text + "3|OK -> 1");
   EXPECT_EQ(shown(BoxStyle::OkCancel, QMessageBox::Cancel), text + "4|OK|Annuler -> 2");
-  EXPECT_EQ(shown(BoxStyle::YesNo, QMessageBox::Yes), text + "4|&Oui|&Non -> 6");
-  EXPECT_EQ(shown(BoxStyle::YesNo, QMessageBox::No), text + "4|&Oui|&Non -> 7");
+  EXPECT_EQ(shown(BoxStyle::YesNo, QMessageBox::Yes), text + "4|&Oui|&Non* -> 6");
+  EXPECT_EQ(shown(BoxStyle::YesNo, QMessageBox::No), text + "4|&Oui|&Non* -> 7");
 }
 
 TEST_F(ScreenBoxes, TheContactDialogBlocksAndTakesEnterAndEscape) {

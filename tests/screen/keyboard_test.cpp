@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QTabBar>
+#include <QTreeWidget>
 
 #include "tests/screen/desktop_fixture.h"
 
@@ -39,8 +40,8 @@ std::string joined(const std::vector<std::string>& names) {
 TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
   const char* const orders[] = {
       "txtPerso cmbSexe txtAge txtYeux txtTaille txtPoids txtCheveux cmbDistrict cmbEthnie cmbProfil cmbGrade "
-      "cmbVehicle txtLangRest optLang_0 txtLang_0 optLang_1 txtLang_1 optLang_2 txtOtherLang txtLang_2 cmdLangModif_0 "
-      "cmdLangModif_1",
+      "cmbVehicle txtLangRest optLang_0 txtLang_0 optLang_1 txtLang_1 optLang_2 cmdLangModif_0 cmdLangModif_1 "
+      "txtOtherLang txtLang_2",
       ("optCaract_0 optCaract_1 optCaract_2 optCaract_3 optCaract_4 optCaract_5 optCaract_6 optCaract_7 "
        "cmdCaractModif_0 cmdCaractModif_1 lblSecondCaract_0 lblSecondCaract_1 lblSecondCaract_2"),
       "lstContact cmdContactNew txtContactDescro optContact_0 optContact_1",
@@ -54,7 +55,7 @@ TEST_F(Keyboard, TabFollowsReadingOrderOnEveryTab) {
     find<QWidget>(character, "txtJoueur").setFocus(Qt::TabFocusReason);
     auto names = round(Qt::Key_Tab);
     EXPECT_EQ(joined(names),
-              "txtJoueur cmdPrintPreview cmdHelp cmdClose SSTabPerso " + std::string(orders[tab]) + " txtAllDescro");
+              "txtJoueur SSTabPerso " + std::string(orders[tab]) + " txtAllDescro cmdPrintPreview cmdHelp cmdClose");
     std::reverse(names.begin() + 1, names.end());
     EXPECT_EQ(joined(round(Qt::Key_Backtab)), joined(names));
   }
@@ -78,6 +79,48 @@ TEST_F(Keyboard, MnemonicsPressTheButtonsOfTheActiveWindowOnly) {
   press(Qt::Key_C, Qt::AltModifier);
   EXPECT_TRUE(QTest::qWaitFor([&] { return run.desktop().activeChild() == &first; }, 2000));
   EXPECT_EQ(run.desktop().activationOrder().size(), 1U);
+}
+
+// Qt knows keys of its own for it, and a letter of a disabled button would fall through to the one that closes.
+TEST_F(Keyboard, NoKeyClosesAWindowByAccident) {
+  start("15000", "10500");
+  auto& character = newCharacter();
+  pickTab(character, 2);
+  find<QWidget>(character, "lstContact").setFocus();
+  press(Qt::Key_W, Qt::ControlModifier);
+  press(Qt::Key_F4, Qt::ControlModifier);
+  press(Qt::Key_C, Qt::AltModifier);
+  EXPECT_EQ(focus(), "txtContactDescro");
+  QTest::qWait(200);
+  EXPECT_TRUE(character.isLoaded());
+}
+
+// On the next tab, in another window, or in another program.
+TEST_F(Keyboard, ANameThatIsBeingEditedCountsWhateverTakesItAway) {
+  start("15000", "10500");
+  auto& other = newCharacter();
+  auto& character = newCharacter();
+  auto& list = find<QTreeWidget>(character, "lvwSkillGen");
+  const int row = list.indexOfTopLevelItem(list.findItems("Connaissance", Qt::MatchStartsWith).value(0)) + 1;
+  ASSERT_GT(row, 0);
+  int number = 0;
+  const std::function<void()> leavings[] = {
+      [&] { press(Qt::Key_PageDown, Qt::ControlModifier); }, [&] { press(Qt::Key_Tab, Qt::ControlModifier); },
+      [&] { QTest::mouseClick(&find<QWidget>(other, "txtJoueur"), Qt::LeftButton); }};
+  for (const auto& leave : leavings) {
+    pickTab(character, 3);
+    perform([&] { user.row(character.lvwSkillGen, row); });
+    list.setFocus(Qt::TabFocusReason);
+    press(Qt::Key_F2);
+    const std::string name = "Chant " + std::to_string(++number);
+    QTest::keyClicks(QApplication::focusWidget(), name.c_str());
+    leave();
+    turn();
+    EXPECT_EQ(character.lvwSkillGen.ListItems(row)->Text(), name);
+    mainWindow().area().setActiveSubWindow(windows.childOf(character));
+    turn();
+    EXPECT_EQ(focus(), number == 1 ? "lvwMartialArt" : "lvwSkillGen");
+  }
 }
 
 TEST_F(Keyboard, CtrlTabGoesRoundTheWindowsBothWays) {

@@ -45,14 +45,18 @@ TEST_F(Views, Texts) {
         {[&] { EXPECT_EQ(find<QPlainTextEdit>("lines").textCursor().position(), 3); }, ""},
         {[&] { find<QPlainTextEdit>("lines").insertPlainText(QChar(QChar::Nbsp)); }, "lines=a\r\nc\u00A0b"},
         {pressed(Qt::Key_Tab, "lines"), "-lines +list"},
-        {[&] { form->lines.setText("un\r\n\r\ntrois"); }, "lines=un\r\n\r\ntrois"}});
+        {[&] { form->lines.setText("un\r\n\r\ntrois"); }, "lines=un\r\n\r\ntrois"},
+        // Nothing is selected where Tab comes to, and what is pasted keeps to the line.
+        {[&] { form->text.setEnabled(true); }, ""},
+        {[&] { text.setFocus(Qt::TabFocusReason); }, "-list +text"},
+        {[&] { text.insert("\r\na\tb\x1b\n"); }, "text=axb a b "},
+        {[&] { EXPECT_EQ(text.cursorPosition(), 8); }, ""}});
 }
 
 TEST_F(Views, Combos) {
   auto& list = find<QComboBox>("list");
-  play({{[&] { roll(list); }, ""},  // the wheel picks only where the focus is
-        {[&] { list.setFocus(Qt::TabFocusReason); }, "+list"},
-        {[&] { roll(list); }, "list:un"},
+  play({{[&] { list.setFocus(Qt::TabFocusReason); }, "+list"},
+        {[&] { roll(list); }, ""},  // the wheel picks nothing
         {[&] { choose(list, 1); }, "list:deux"},
         {[&] { choose(list, 1); }, "list:deux"},
         {pressed(Qt::Key_Up, "list"), "list:un"},
@@ -69,6 +73,10 @@ TEST_F(Views, TypedEntriesAreSelectedAndNeverClicked) {
   play({{[&] { combo.setFocus(Qt::TabFocusReason); }, "+combo"},
         {[&] { QTest::keyClicks(&edit, "Do"); }, "combo=D combo=Do"},
         {[&] { QTest::keyClicks(&edit, "cks"); }, "combo=Doc combo=Dock combo=Docks"},
+        {[&] { find("text").setFocus(Qt::TabFocusReason); }, "-combo +text"},
+        {[&] { combo.setFocus(Qt::TabFocusReason); }, "-text +combo"},
+        {[&] { QTest::keyClicks(&edit, "!"); }, "combo=Docks!"},
+        {[&] { QTest::keyClick(&edit, Qt::Key_Backspace); }, "combo=Docks"},
         {[&] { EXPECT_EQ(edit.cursorPosition(), 5); }, ""},
         {[&] { QTest::keyClick(&edit, Qt::Key_Return); }, ""},
         {[&] { edit.setCursorPosition(1); }, ""},

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -143,8 +145,13 @@ void WidgetUser::click(Control& control) {
 void WidgetUser::type(Control& control, std::string text) {
   check(control);
   control.prepareType(text);
-  auto* combo = qobject_cast<QComboBox*>(&widget<QWidget>(control));
-  replaceText(combo ? *combo->lineEdit() : widget<QWidget>(control), shownLines(text));
+  auto& shown = widget<QWidget>(control);
+  auto* combo = qobject_cast<QComboBox*>(&shown);
+  // On a line of the screen nobody types control characters.
+  if (!qobject_cast<QPlainTextEdit*>(&shown) && shownLines(text).contains(QRegularExpression("\\p{Cc}")))
+    User::type(control, text);
+  else
+    replaceText(combo ? *combo->lineEdit() : shown, shownLines(text));
   look();
 }
 

@@ -52,6 +52,14 @@ TEST_F(MainWindows, TheListTicksTheActiveWindow) {
   mainWindow().findChild<QMenu*>("mnuWindow")->actions().last()->trigger();
   turn();
   EXPECT_EQ(activeChild()->windowTitle(), "Définition Cléo");
+  // An icon comes back, also the one of the active window.
+  auto* icon = activeChild();
+  icon->showMinimized();
+  EXPECT_EQ(windowList(), "&1 Définition Anne && Bo\n&2 Définition Cléo*\n");
+  mainWindow().findChild<QMenu*>("mnuWindow")->actions().last()->trigger();
+  turn();
+  EXPECT_FALSE(icon->isMinimized());
+  EXPECT_EQ(activeChild(), icon);
 }
 
 TEST_F(MainWindows, ActivationGoesBothWays) {

@@ -1,0 +1,38 @@
+#include "screen/line_edits.h"
+
+#include <QFocusEvent>
+#include <QRegularExpression>
+
+namespace orvane {
+namespace {
+
+QString onOneLine(QString text) {
+  static const QRegularExpression blanks(R"(\r\n|[\t\n\v\f\r\x{85}\x{2028}\x{2029}])");
+  static const QRegularExpression control(R"(\p{Cc})");
+  return text.replace(blanks, " ").remove(control);
+}
+
+}  // namespace
+
+void keepToOneLine(QLineEdit& edit) {
+  QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&edit](const QString& text) {
+    const QString line = onOneLine(text);
+    if (line == text) return;
+    const QString before = onOneLine(text.left(edit.cursorPosition()));
+    edit.setText(line);
+    edit.setCursorPosition(static_cast<int>(before.size()));
+  });
+}
+
+bool enteredAtEnd(QWidget& holder, QLineEdit& edit, const QEvent& event) {
+  if (event.type() != QEvent::FocusIn) return false;
+  const auto reason = static_cast<const QFocusEvent&>(event).reason();
+  if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason && reason != Qt::ShortcutFocusReason)
+    return false;
+  QFocusEvent selectingNothing(QEvent::FocusIn, Qt::OtherFocusReason);
+  static_cast<QObject&>(holder).event(&selectingNothing);
+  edit.end(false);
+  return true;
+}
+
+}  // namespace orvane
