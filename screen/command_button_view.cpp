@@ -56,6 +56,7 @@ void CommandButtonView::click() {
   // A button may compose or save a sheet; an arrow only steps.
   std::optional<PointerShape> busy;
   if (command_.picture() == CommandButton::Picture::None) busy.emplace(Qt::WaitCursor);
+  if (!busy) form().reveal(command_);
   act([this](User& user) { user.click(command_); });
 }
 

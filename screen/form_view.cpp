@@ -8,6 +8,7 @@
 
 #include "canvas/qt_text.h"
 #include "screen/make_view.h"
+#include "screen/steps.h"
 #include "surface/desktop.h"
 
 namespace orvane {
@@ -41,6 +42,11 @@ View* FormView::viewOf(const Control& control) const {
   for (auto& view : views_)
     if (&view->control() == &control) return view.get();
   return nullptr;
+}
+
+void FormView::reveal(const Control& arrow) {
+  for (auto& view : views_)
+    if (standTogether(view->control(), arrow)) view->reveal();
 }
 
 void FormView::schedule(View& view) {

@@ -27,6 +27,8 @@ class FormView : public QObject {
   View* viewOf(const Control& control) const;
 
   ScreenDoor& door() const { return door_; }
+  // Brings into sight what the arrow button steps.
+  void reveal(const Control& arrow);
   // While the views are brought up to date; what widgets report meanwhile is no act.
   bool isSyncing() const { return syncing_; }
   // Brings a view up to date at the next turn.

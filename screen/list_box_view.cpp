@@ -12,6 +12,7 @@ ListBoxView::ListBoxView(ListBox& box, QListWidget& list, FormView& form)
   list_.setSelectionMode(QAbstractItemView::SingleSelection);
   list_.setEditTriggers(QAbstractItemView::NoEditTriggers);
   list_.setTabKeyNavigation(false);
+  onEvent(list_, [this](QEvent& event) { return stepPressed(event); });
   onEvent(*list_.viewport(), [this](QEvent& event) { return pressed(event); });
   // With the mouse seen to above, only keys and screen readers move the current row.
   on(&list_, &QListWidget::currentRowChanged, [this](int row) { pick(row); });

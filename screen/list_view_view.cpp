@@ -149,6 +149,10 @@ void ListViewView::fitColumns() {
   }
 }
 
+void ListViewView::reveal() {
+  if (auto* item = tree_.currentItem()) tree_.scrollToItem(item);
+}
+
 void ListViewView::showSelection() {
   auto* item = list_.SelectedItem() ? tree_.topLevelItem(list_.SelectedItem()->Index() - 1) : nullptr;
   if (tree_.currentItem() == item && (!item || item->isSelected())) return;
@@ -197,6 +201,7 @@ bool ListViewView::onCheckBox(QTreeWidgetItem& item, const QPoint& where) const 
 bool ListViewView::treeEvent(QEvent& event) {
   if (event.type() == QEvent::FocusIn) entered_ = static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
   if (event.type() != QEvent::KeyPress) return false;
+  if (!list_.checkBoxes() && stepPressed(event)) return true;
   const int key = static_cast<QKeyEvent&>(event).key();
   if (key == Qt::Key_Space && list_.checkBoxes())
     toggle(tree_.currentItem());

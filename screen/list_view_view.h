@@ -17,6 +17,7 @@ class ListViewView final : public View {
 
  private:
   void show() override;
+  void reveal() override;
   void showColumns();
   void showRows();
   void showRow(const ListItem& row, QTreeWidgetItem& item) const;

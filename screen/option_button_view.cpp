@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
@@ -28,7 +29,10 @@ int arrowStep(int key) {
 
 OptionButtonView::OptionButtonView(OptionButton& option, QRadioButton& button, FormView& form)
     : View(option, button, form), option_(option), button_(button) {
-  button_.setAutoExclusive(false);
+  // In a group of its own that is not exclusive, yet to screen readers a radio button.
+  auto* alone = new QButtonGroup(&button_);
+  alone->setExclusive(false);
+  alone->addButton(&button_);
   button_.setFocusPolicy(Qt::StrongFocus);
   on(&button_, &QRadioButton::clicked, [this] { act([this](User& user) { user.click(option_); }); });
   onEvent(button_, [this](QEvent& event) { return arrowPressed(event); });
@@ -42,6 +46,10 @@ void OptionButtonView::show() {
 
 bool OptionButtonView::arrowPressed(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return false;
+  const Deed select = [this](User& user) {
+    if (!option_.Value()) user.click(option_);
+  };
+  if (stepPressed(event, select)) return true;
   const int step = arrowStep(static_cast<const QKeyEvent&>(event).key());
   if (step != 0) moveBy(step);
   return step != 0;

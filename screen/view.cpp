@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "screen/form_view.h"
+#include "screen/steps.h"
 
 namespace orvane {
 namespace {
@@ -41,6 +42,19 @@ void View::act(const Deed& deed) {
   if (detached_ || form_.isSyncing()) return;
   form_.door().act(deed);
   form_.schedule(*this);
+}
+
+bool View::stepPressed(const QEvent& event, const Deed& select) {
+  const int step = stepAskedBy(event);
+  auto* arrow = step == 0 ? nullptr : arrowBeside(control_, step);
+  if (!arrow) return false;
+  reveal();
+  act([&](User& user) {
+    if (select) select(user);
+    user.click(*arrow);
+    user.focus(control_);
+  });
+  return true;
 }
 
 View* View::viewOf(const Control& other) const { return form_.viewOf(other); }

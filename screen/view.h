@@ -32,6 +32,9 @@ class View : public ControlObserver {
   // Does one act of the user, then brings the widget back to what the control says.
   void act(const Deed& deed);
 
+  // Brings what an arrow button steps into sight.
+  virtual void reveal() {}
+
   void controlChanged(Control& control) override;
 
  protected:
@@ -40,6 +43,9 @@ class View : public ControlObserver {
 
   bool isDetached() const { return detached_; }
   FormView& form() const { return form_; }
+  // For a key that steps: as a click on the arrow button beside the control, which keeps the focus. Selects the control
+  // first. False for any other event.
+  bool stepPressed(const QEvent& event, const Deed& select = {});
   // Of another control of the form; none when it is not on the screen.
   View* viewOf(const Control& other) const;
 

@@ -123,6 +123,33 @@ TEST_F(Keyboard, ANameThatIsBeingEditedCountsWhateverTakesItAway) {
   }
 }
 
+// As the arrow buttons do, and the form knows of it by the same events.
+TEST_F(Keyboard, PlusAndMinusStepWhatHasTheFocus) {
+  start("15000", "10500");
+  auto& character = newCharacter();
+  const auto after = [&](int tab, const char* name, const std::vector<std::pair<Qt::Key, Qt::KeyboardModifiers>>& keys,
+                         const std::function<std::string()>& value) {
+    pickTab(character, tab);
+    find<QWidget>(character, name).setFocus(Qt::TabFocusReason);
+    for (const auto& [key, modifiers] : keys) press(key, modifiers);
+    EXPECT_EQ(focus(), name);
+    return value();
+  };
+  const auto plus = std::pair(Qt::Key_Plus, Qt::KeyboardModifiers(Qt::NoModifier));
+  const auto minus = std::pair(Qt::Key_Minus, Qt::KeyboardModifiers(Qt::NoModifier));
+  const auto right = std::pair(Qt::Key_Right, Qt::KeyboardModifiers(Qt::ControlModifier));
+  const auto left = std::pair(Qt::Key_Left, Qt::KeyboardModifiers(Qt::ControlModifier));
+  EXPECT_EQ(after(0, "optLang_1", {plus, right}, [&] { return character.txtLang(1).Text(); }), "2");
+  EXPECT_EQ(after(1, "optCaract_2", {minus, plus, left}, [&] { return character.txtCaract(2).Text(); }), "-1");
+  auto& skills = find<QTreeWidget>(character, "lvwSkillGen");
+  const auto stepped = character.lvwSkillGen.ListItems(1);
+  const double before = std::stod(stepped->SubItems(1));
+  skills.scrollToBottom();
+  EXPECT_EQ(after(3, "lvwSkillGen", {plus}, [&] { return stepped->SubItems(1); }),
+            std::to_string(static_cast<int>(before) + 1));
+  EXPECT_TRUE(skills.viewport()->rect().contains(skills.visualItemRect(skills.topLevelItem(0)).center()));
+}
+
 TEST_F(Keyboard, CtrlTabGoesRoundTheWindowsBothWays) {
   start("15000", "10500");
   Form* opened[] = {&newCharacter(), &newCharacter(), &newCharacter()};
