@@ -4,6 +4,7 @@
 
 #include "check/check_folder.h"
 #include "check/report.h"
+#include "surface/app.h"
 #include "surface/disk_files.h"
 #include "surface/failure.h"
 
@@ -19,7 +20,8 @@ constexpr std::string_view help =
     "  --format text   une ligne par constat : fichier:ligne:colonne: gravité: texte\n"
     "  --format json   les mêmes, en objets, avec des codes qui ne changent pas\n"
     "  --sheet         mesure aussi ce que la feuille imprime, dans sa police\n"
-    "  --help          cette aide\n\n"
+    "  --help          cette aide\n"
+    "  --version       la version\n\n"
     "Code de sortie : 0 rien à redire (ou des remarques), 1 des avertissements, 2 des erreurs,\n"
     "3 rien n'a pu être contrôlé.\n";
 
@@ -27,6 +29,7 @@ struct CommandLine {
   ReportFormat format = ReportFormat::Text;
   bool withSheets = false;
   bool wantsHelp = false;
+  bool wantsVersion = false;
   std::optional<std::string> folder;
 };
 
@@ -44,6 +47,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
       line.withSheets = true;
     else if (argument == "--help")
       line.wantsHelp = true;
+    else if (argument == "--version")
+      line.wantsVersion = true;
     else if (argument == "--format" && i + 1 < arguments.size())
       line.format = formatOf(arguments[++i]);
     else if (argument.starts_with("--format="))
@@ -70,6 +75,10 @@ int statusOf(const std::vector<Finding>& findings) {
 int check(const CommandLine& line, std::ostream& out, Pictures& pictures) {
   if (line.wantsHelp) {
     out << usage << '\n' << help;
+    return 0;
+  }
+  if (line.wantsVersion) {
+    out << App::versionLine("orvane-check");
     return 0;
   }
   const std::string folder = line.folder.value_or(".");

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "player/script_parser.h"
+#include "surface/app.h"
 #include "surface/failure.h"
 #include "surface/system_reason.h"
 #include "surface/text.h"
@@ -18,8 +19,20 @@ constexpr std::size_t longestMessage = 10000;  // characters
 
 const std::string standardInput = "-";
 
+constexpr std::string_view usage = "usage : orvane-batch [--keep-going] [SCRIPT...]";
+constexpr std::string_view help =
+    "\nJoue des scripts de personnages sans écran, l'un après l'autre, et écrit la transcription. Les données se lisent\n"
+    "dans le dossier courant, les feuilles se gardent dans ./Perso. Sans SCRIPT, ou pour « - » : l'entrée standard.\n\n"
+    "  --keep-going   continue après un acte refusé\n"
+    "  --help         cette aide\n"
+    "  --version      la version\n\n"
+    "Code de sortie : 0 tout est fait, 1 un acte a été refusé ou a échoué, 2 un script ne se lit pas ou la commande est\n"
+    "fautive, 3 une feuille n'a pas pu être sauvée.\n";
+
 struct CommandLine {
   bool keepGoing = false;
+  bool wantsHelp = false;
+  bool wantsVersion = false;
   std::vector<std::string> files;
 };
 
@@ -28,8 +41,12 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
   for (const auto& argument : arguments) {
     if (argument == "--keep-going")
       line.keepGoing = true;
+    else if (argument == "--help")
+      line.wantsHelp = true;
+    else if (argument == "--version")
+      line.wantsVersion = true;
     else if (argument.starts_with('-') && argument != standardInput)
-      throw ScriptError{"option inconnue : " + argument + "\nusage : orvane-batch [--keep-going] [SCRIPT...]"};
+      throw ScriptError{"option inconnue : " + argument + "\n" + std::string(usage)};
     else
       line.files.push_back(argument);
   }
@@ -58,6 +75,10 @@ std::string readScript(const std::string& file, std::istream& in, Files& files) 
 }
 
 int play(const CommandLine& line, std::istream& in, std::ostream& out, std::ostream& err, PlayerParts parts) {
+  if (line.wantsHelp || line.wantsVersion) {
+    out << (line.wantsHelp ? std::string(usage) + "\n" + std::string(help) : App::versionLine("orvane-batch"));
+    return done;
+  }
   std::vector<Script> scripts;
   for (const auto& file : line.files) scripts.push_back(parseScript(file, readScript(file, in, parts.files)));
   ScriptPlayer player(out, err, parts, line.keepGoing);

@@ -9,8 +9,7 @@ frmSplash::frmSplash(Desktop& desktop) : Form(desktop, {.name = "frmSplash", .ro
 }
 
 void frmSplash::Form_Load() {
-  lblVersion.setCaption("Version " + std::to_string(App::Major) + "." + std::to_string(App::Minor) + "." +
-                        std::to_string(App::Revision));
+  lblVersion.setCaption("Version " + App::version());
 }
 
 void frmSplash::cmdClose_Click() { Unload(); }

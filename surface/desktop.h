@@ -6,18 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "surface/app.h"
 #include "surface/form.h"
 #include "surface/world.h"
 
 namespace orvane {
-
-// What the program calls itself.
-struct App {
-  static inline const std::string Title = "Tessaly";
-  static constexpr int Major = 1;
-  static constexpr int Minor = 1;
-  static constexpr int Revision = 0;
-};
 
 enum class Arrangement { Cascade = 0, TileHorizontally = 1, TileVertically = 2, Icons = 3 };
 

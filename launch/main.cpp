@@ -1,0 +1,69 @@
+#include <cerrno>
+#include <filesystem>
+#include <iostream>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "launch/work_folder.h"
+#include "surface/app.h"
+#include "surface/disk_files.h"
+#include "surface/failure.h"
+#include "surface/system_reason.h"
+
+namespace {
+
+using orvane::Failure;
+
+constexpr std::string_view help =
+    "usage : orvane-launch\n"
+    "Démarre Orvane dans le dossier « Orvane » de vos documents, où il place d'abord ce qui y manque des données du\n"
+    "jeu ; les personnages s'y gardent dans « Perso ». Ce que vous y avez changé n'est jamais remplacé.\n\n"
+    "  --help      cette aide\n"
+    "  --version   la version\n";
+
+// In a box where there is a screen.
+void tell(QMessageBox::Icon icon, const std::string& text, int argc, char** argv) {
+  std::cerr << "orvane-launch: " << text << '\n';
+  if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) return;
+  const QApplication application(argc, argv);
+  QMessageBox(icon, "Orvane", QString::fromStdString(text), QMessageBox::Ok).exec();
+}
+
+std::filesystem::path ownFolder() { return std::filesystem::read_symlink("/proc/self/exe").parent_path(); }
+
+// Only returns where it fails.
+[[noreturn]] void start(const std::string& folder) {
+  if (chdir(folder.c_str()) != 0)
+    throw Failure("Impossible d'aller dans " + folder + " (" + orvane::systemReason(errno) + ").");
+  const std::string program = ownFolder() / "orvane";
+  execl(program.c_str(), program.c_str(), nullptr);
+  throw Failure("Impossible de démarrer " + program + " (" + orvane::systemReason(errno) + ").");
+}
+
+int launch(int argc, char** argv) {
+  const std::string installed = (ownFolder() / ORVANE_GAME_FOLDER).lexically_normal();
+  const std::string folder = orvane::workFolder();
+  orvane::DiskFiles files;
+  const std::string words = orvane::wordsOn(orvane::deliver(files, installed, folder), installed, folder);
+  if (!words.empty()) tell(QMessageBox::Information, words, argc, argv);
+  start(folder);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string argument = argc > 1 ? argv[1] : "";
+  if (argument == "--help" || argument == "--version") {
+    std::cout << (argument == "--help" ? help : orvane::App::versionLine("orvane-launch"));
+    return 0;
+  }
+  try {
+    if (!argument.empty()) throw Failure("Argument inconnu : " + argument);
+    return launch(argc, argv);
+  } catch (const std::exception& error) {
+    tell(QMessageBox::Critical, orvane::sentenceOn(error), argc, argv);
+    return 1;
+  }
+}
