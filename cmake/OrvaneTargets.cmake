@@ -8,6 +8,12 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 target_compile_options(orvane_build INTERFACE -fPIC)  # as Qt asks for: all can then share precompiled headers
 target_include_directories(orvane_build INTERFACE ${PROJECT_SOURCE_DIR})
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  # What is shipped is hardened, and the same bytes from whatever folder it was built in.
+  target_compile_options(orvane_build INTERFACE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3
+    -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
+  target_link_options(orvane_build INTERFACE -pie -Wl,-z,relro,-z,now)
+endif()
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orvane_build INTERFACE -fsanitize=address,undefined)

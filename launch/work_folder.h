@@ -16,9 +16,9 @@ struct Delivery {
   std::vector<std::string> waiting;  // newer ones left where they are installed, for the user had changed something
 };
 
-// Makes the folder and copies into it what is missing of the files in `installed`. Newer ones replace those of an earlier
-// delivery all together, and only where no file differs from what was delivered; else each is reported as waiting, once.
-// Where it fails, the next call goes on.
+// Makes the folder and copies into it what is missing of the files in `installed`. Newer ones replace those of an
+// earlier delivery all together, and only where no file differs from what was delivered; else each is reported as
+// waiting, once. Where it fails, the next call goes on.
 Delivery deliver(Files& files, const std::string& installed, const std::string& folder);
 
 // What the user is told of it, in French; empty where there is nothing to tell.

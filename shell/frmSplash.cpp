@@ -8,9 +8,7 @@ frmSplash::frmSplash(Desktop& desktop) : Form(desktop, {.name = "frmSplash", .ro
   on(cmdClose.Click, &frmSplash::cmdClose_Click);
 }
 
-void frmSplash::Form_Load() {
-  lblVersion.setCaption("Version " + App::version());
-}
+void frmSplash::Form_Load() { lblVersion.setCaption("Version " + App::version()); }
 
 void frmSplash::cmdClose_Click() { Unload(); }
 

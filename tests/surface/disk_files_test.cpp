@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 
 #include "surface/failure.h"
+#include "surface/open_file.h"
 #include "surface/system_reason.h"
 #include "tests/support/temporary_folder.h"
 
@@ -127,6 +128,19 @@ TEST_F(Disk, ALimitOfSizeIsAFailureAndLeavesNoHalfOfAFile) {
   ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &former), 0);
   EXPECT_EQ(text, "Écriture impossible : D/a (le fichier est trop grand).");
   EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST(Uninterrupted, AsksAgainOnlyWhereASignalCameIn) {
+  // What each call of the system gives in turn, with its errno.
+  const auto calls = [](std::vector<std::pair<int, int>> results) {
+    std::size_t call = 0;
+    return uninterrupted([&] {
+      errno = results.at(call).second;
+      return results[call++].first;
+    });
+  };
+  EXPECT_EQ(calls({{-1, EINTR}, {-1, EINTR}, {3, EINTR}}), 3);
+  EXPECT_EQ(calls({{-1, EIO}}), -1);
 }
 
 TEST(SystemReason, IsFrenchForEveryErrorAndException) {

@@ -1,0 +1,17 @@
+# Completes the options and files of orvane-batch and orvane-check.
+_orvane() {
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options="--help --version"
+  case $1 in
+    *orvane-batch) options+=" --keep-going" ;;
+    *orvane-check) options+=" --format --sheet" ;;
+  esac
+  if [[ $before == --format ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "text json" -- "$word")
+  elif [[ $word == -* ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+  else
+    compopt -o filenames
+    mapfile -t COMPREPLY < <(if [[ $1 == *-check ]]; then compgen -d -- "$word"; else compgen -f -- "$word"; fi)
+  fi
+}
+complete -F _orvane orvane-batch orvane-check
