@@ -21,15 +21,14 @@ const std::string standardInput = "-";
 
 constexpr std::string_view usage = "usage : orvane-batch [--keep-going] [SCRIPT...]";
 constexpr std::string_view help =
-    "\nJoue des scripts de personnages sans écran, l'un après l'autre, et écrit la transcription. Les données se "
-    "lisent\n"
-    "dans le dossier courant, les feuilles se gardent dans ./Perso. Sans SCRIPT, ou pour « - » : l'entrée standard.\n\n"
+    "\nJoue des scripts de personnages sans écran, l'un après l'autre, et écrit la transcription.\n"
+    "Les données se lisent dans le dossier courant, les feuilles se gardent dans ./Perso.\n"
+    "Sans SCRIPT, ou pour « - » : l'entrée standard.\n\n"
     "  --keep-going   continue après un acte refusé\n"
     "  --help         cette aide\n"
     "  --version      la version\n\n"
-    "Code de sortie : 0 tout est fait, 1 un acte a été refusé ou a échoué, 2 un script ne se lit pas ou la commande "
-    "est\n"
-    "fautive, 3 une feuille n'a pas pu être sauvée.\n";
+    "Code de sortie : 0 tout est fait, 1 un acte a été refusé ou a échoué, 2 un script ne se lit pas\n"
+    "ou la commande est fautive, 3 une feuille n'a pas pu être sauvée.\n";
 
 struct CommandLine {
   bool keepGoing = false;
