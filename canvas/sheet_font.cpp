@@ -14,7 +14,7 @@ namespace {
 constexpr const char* family = "Liberation Serif";
 constexpr const char* file = "/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf";
 
-// No rule at all: what is not said is grey edges and full hinting. The folders are for characters that the font lacks.
+// No rule at all: what is not said is grey edges and full hinting. The other fonts are for characters that ours lacks.
 constexpr const char* rules =
     "<fontconfig><dir>/usr/share/fonts</dir>"
     "<cachedir>/var/cache/fontconfig</cachedir><cachedir prefix=\"xdg\">fontconfig</cachedir></fontconfig>";
@@ -23,7 +23,6 @@ FcConfig* ourRules() {
   FcConfig* made = FcConfigCreate();
   FcConfigParseAndLoadFromMemory(made, reinterpret_cast<const FcChar8*>(rules), FcTrue);
   FcConfigBuildFonts(made);
-  FcConfigAppFontAddFile(made, reinterpret_cast<const FcChar8*>(file));
   return made;
 }
 
