@@ -37,6 +37,7 @@ Qt::WindowFlags frameFlags(bool resizable) {
 
 ChildWindow::ChildWindow(Form& form, ScreenDoor& door) : door_(door), pane_(new QWidget) {
   layOut(form, *pane_);
+  design_ = pane_->size();
   setWidget(pane_);
   setWindowFlags(frameFlags(form.isResizable()));
   setWindowIcon(QIcon(":/art/icons/orvane-16.png"));
@@ -56,9 +57,14 @@ void ChildWindow::answerEscape() {
           [this, cancel] { door_.act([cancel](User& user) { user.click(*cancel); }); });
 }
 
-void ChildWindow::measure() {
+void ChildWindow::measure(const QSize& room) {
   measureAnew(*pane_);
-  pane_->setFixedSize(pane_->size().expandedTo(pane_->sizeHint()));
+  pane_->setFixedSize(design_.expandedTo(pane_->sizeHint()));
+  adjustSize();
+  if (form().isResizable()) return;
+  constexpr int titleOfAnother = 28;
+  const int spare = room.height() - titleOfAnother - height();
+  pane_->setFixedHeight(pane_->height() + std::clamp(spare, 0, pane_->height() / 2));
   adjustSize();
 }
 

@@ -14,8 +14,9 @@ class ChildWindow final : public QMdiSubWindow {
   ChildWindow(Form& form, ScreenDoor& door);
 
   Form& form() const { return view_->form(); }
-  // Takes the size that the form is designed for; a form of a fixed size keeps it.
-  void measure();
+  // Takes the size that the form is designed for, or, where a form of a fixed size has something to scroll, a larger
+  // one that still leaves the room something of other windows.
+  void measure(const QSize& room);
   // After that, at that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
@@ -32,6 +33,7 @@ class ChildWindow final : public QMdiSubWindow {
 
   ScreenDoor& door_;
   QWidget* pane_;
+  QSize design_;
   std::unique_ptr<FormView> view_;
 };
 

@@ -20,7 +20,19 @@ bool rollPast(QEvent& event) {
   return true;
 }
 
+int leadingDigits(const QString& text) {
+  const auto end = std::find_if_not(text.begin(), text.end(), [](QChar sign) { return sign.isDigit(); });
+  return static_cast<int>(end - text.begin());
+}
+
 }  // namespace
+
+QString NumberDelegate::displayText(const QVariant& value, const QLocale&) const {
+  constexpr auto blankOfADigit = QChar(0x2007);
+  const QString text = value.toString();
+  const int own = leadingDigits(text);
+  return own == 0 ? text : QString(std::max(0, digits - own), blankOfADigit) + text;
+}
 
 ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
     : View(box, combo, form), box_(box), combo_(combo) {
@@ -48,7 +60,12 @@ bool ComboBoxView::entriesDiffer() const {
 void ComboBoxView::showEntries() {
   if (!entriesDiffer()) return;
   combo_.clear();
-  for (int i = 0; i < box_.ListCount(); ++i) combo_.addItem(toQt(box_.List(i)));
+  numbers_.digits = 0;
+  for (int i = 0; i < box_.ListCount(); ++i) {
+    combo_.addItem(toQt(box_.List(i)));
+    numbers_.digits = std::max(numbers_.digits, leadingDigits(combo_.itemText(i)));
+  }
+  if (numbers_.digits > 0) combo_.setItemDelegate(&numbers_);
 }
 
 void ComboBoxView::showSelection() {

@@ -1,11 +1,21 @@
 #pragma once
 
 #include <QComboBox>
+#include <QStyledItemDelegate>
 
 #include "screen/view.h"
 #include "surface/combo_box.h"
 
 namespace orvane {
+
+// Lets the numbers that entries begin with end below one another.
+class NumberDelegate final : public QStyledItemDelegate {
+ public:
+  // Of the widest number, in digits.
+  int digits = 0;
+
+  QString displayText(const QVariant& value, const QLocale& locale) const override;
+};
 
 class ComboBoxView final : public View {
  public:
@@ -19,6 +29,7 @@ class ComboBoxView final : public View {
 
   ComboBox& box_;
   QComboBox& combo_;
+  NumberDelegate numbers_;
 };
 
 }  // namespace orvane

@@ -24,6 +24,7 @@ CommandButtonView::CommandButtonView(CommandButton& command, QAbstractButton& bu
 void CommandButtonView::showArrow() {
   const bool left = command_.picture() == CommandButton::Picture::LeftArrow;
   button_.setIcon(button_.style()->standardIcon(left ? QStyle::SP_ArrowLeft : QStyle::SP_ArrowRight));
+  button_.setMinimumSize(button_.minimumSize().expandedTo(button_.sizeHint()));  // it grows with the font
   button_.setAutoRepeat(true);
 }
 

@@ -1,5 +1,7 @@
 #include "screen/list_delegate.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -9,20 +11,41 @@
 namespace orvane {
 namespace {
 
-void colourText(QPalette& palette, Colour colour) {
-  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-    const QColor wanted = screenColour(colour, palette);
-    palette.setColor(group, QPalette::Text, readable(wanted, palette.color(group, QPalette::Base)));
-    palette.setColor(group, QPalette::HighlightedText, readable(wanted, palette.color(group, QPalette::Highlight)));
-  }
+void setInAllGroups(QPalette& palette, QPalette::ColorRole role, const QColor& colour) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+    palette.setColor(group, role, colour);
+}
+
+void colourText(QPalette& palette, Colour colour, const QColor& ground) {
+  const QColor wanted = screenColour(colour, palette);
+  setInAllGroups(palette, QPalette::Text, readable(wanted, ground));
+  setInAllGroups(palette, QPalette::HighlightedText, readable(wanted, palette.color(QPalette::Highlight)));
+}
+
+// Two lists may stand side by side: the arrow buttons act on the one without check boxes, unless the keyboard is in the
+// other.
+bool isActive(const QWidget* list, bool hasCheckBoxes) {
+  const auto* focus = qobject_cast<const QAbstractItemView*>(QApplication::focusWidget());
+  return hasCheckBoxes ? focus == list : !focus || focus == list;
+}
+
+void pale(QPalette& palette) {
+  const QColor ground = blend(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2);
+  setInAllGroups(palette, QPalette::Highlight, ground);
+  setInAllGroups(palette, QPalette::HighlightedText, readable(palette.color(QPalette::Text), ground));
 }
 
 }  // namespace
 
 void ListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
+  if (index.data(stripeRole).toBool()) option->backgroundBrush = option->palette.brush(QPalette::AlternateBase);
   const QVariant colour = index.data(cellColourRole);
-  if (colour.isValid()) colourText(option->palette, static_cast<Colour>(colour.toUInt()));
+  const bool hasCheckBoxes = index.siblingAtColumn(0).data(Qt::CheckStateRole).isValid();
+  if (!isActive(option->widget, hasCheckBoxes)) pale(option->palette);
+  const auto ground = index.data(stripeRole).toBool() ? QPalette::AlternateBase : QPalette::Base;
+  if (colour.isValid())
+    colourText(option->palette, static_cast<Colour>(colour.toUInt()), option->palette.color(ground));
 }
 
 QWidget* ListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,

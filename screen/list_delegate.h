@@ -9,7 +9,11 @@ namespace orvane {
 // Where a cell keeps the colour that its control gave it, a Colour as unsigned number.
 inline constexpr int cellColourRole = Qt::UserRole + 1;
 
-// Paints the colours of cells so that they can be read, selected or not, and hands on what was typed into a name.
+// Whether a row belongs to every second group of rows, whose ground is a little darker or lighter.
+inline constexpr int stripeRole = Qt::UserRole + 2;
+
+// Paints the colours of cells so that they can be read, selected or not, pales the selection of a list that another
+// one has taken over from, and hands on what was typed into a name.
 class ListDelegate final : public QStyledItemDelegate {
  public:
   using Typed = std::function<void(const QString&)>;

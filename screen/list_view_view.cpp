@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include "canvas/qt_text.h"
@@ -34,6 +35,7 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });
   onEvent(*tree_.viewport(), [this](QEvent& event) { return viewportEvent(event); });
   onEvent(tree_, [this](QEvent& event) { return treeEvent(event); });
+  on(qApp, &QApplication::focusChanged, [this] { tree_.viewport()->update(); });
   // With the mouse seen to above, only keys, type-ahead and screen readers move the current row.
   on(&tree_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) { clickRow(item); });
 }
@@ -49,6 +51,7 @@ void ListViewView::show() {
   showColumns();
   showRows();
   fitColumns();
+  fitWidth();
   showSelection();
 }
 
@@ -61,17 +64,31 @@ void ListViewView::showColumns() {
     tree_.setColumnHidden(column, list_.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0);
 }
 
-void ListViewView::showRows() {
-  while (tree_.topLevelItemCount() > list_.Count()) delete tree_.takeTopLevelItem(tree_.topLevelItemCount() - 1);
-  while (tree_.topLevelItemCount() < list_.Count()) tree_.addTopLevelItem(new QTreeWidgetItem);
-  for (int i = 0; i < list_.Count(); ++i) showRow(*list_.ListItems(i + 1), *tree_.topLevelItem(i));
-}
-
 namespace {
 
 void write(QTreeWidgetItem& item, int column, int role, const QVariant& value) {
   if (item.data(column, role) != value) item.setData(column, role, value);
 }
+
+// A row without a name goes with the one above it.
+bool belongsAbove(const ListItem& row) { return row.Text().empty() && row.Index() > 1; }
+
+}  // namespace
+
+void ListViewView::showRows() {
+  while (tree_.topLevelItemCount() > list_.Count()) delete tree_.takeTopLevelItem(tree_.topLevelItemCount() - 1);
+  while (tree_.topLevelItemCount() < list_.Count()) tree_.addTopLevelItem(new QTreeWidgetItem);
+  bool stripe = true;
+  for (int i = 0; i < list_.Count(); ++i) {
+    const ListItem& row = *list_.ListItems(i + 1);
+    stripe = belongsAbove(row) ? stripe : !stripe;
+    for (int column = 0; column < tree_.columnCount(); ++column)
+      write(*tree_.topLevelItem(i), column, stripeRole, stripe);
+    showRow(row, *tree_.topLevelItem(i));
+  }
+}
+
+namespace {
 
 QVariant cellColour(Colour colour) {
   return colour == Colour::WindowText ? QVariant() : QVariant(static_cast<uint>(colour));
@@ -89,10 +106,8 @@ bool isNumber(const QString& text) {
   return number;
 }
 
-// A row without a name goes with the one above it.
 std::string nameOf(const ListView& list, const ListItem& row) {
-  const bool hasNone = row.Text().empty() && row.Index() > 1;
-  return hasNone ? list.ListItems(row.Index() - 1)->Text() : row.Text();
+  return belongsAbove(row) ? list.ListItems(row.Index() - 1)->Text() : row.Text();
 }
 
 // "Tir, niveau 3": what a screen reader says of a row. The number that comes first is the level.
@@ -124,6 +139,7 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
     const auto& header = list_.ColumnHeaders()[static_cast<std::size_t>(column)];
     const Qt::Alignment side = header.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
     write(item, column, Qt::DisplayRole, toQt(row.SubItems(column)));
+    write(item, column, Qt::ToolTipRole, tree_.headerItem()->toolTip(column));
     write(item, column, Qt::TextAlignmentRole, static_cast<int>(side | Qt::AlignVCenter));
     write(item, column, Qt::FontRole, cellFont(tree_, row.ListSubItems(column).Bold()));
     write(item, column, cellColourRole, cellColour(row.ListSubItems(column).ForeColor()));
@@ -151,6 +167,16 @@ void ListViewView::fitColumns() {
 
 void ListViewView::reveal() {
   if (auto* item = tree_.currentItem()) tree_.scrollToItem(item);
+}
+
+// A list that the layout gives no more than it needs.
+void ListViewView::fitWidth() {
+  if (tree_.sizePolicy().horizontalPolicy() != QSizePolicy::Maximum || list_.Count() == 0) return;
+  constexpr int air = 24;
+  int width = widthOfTexts(0) + air + 2 * tree_.frameWidth() + tree_.verticalScrollBar()->sizeHint().width();
+  for (int column = 1; column < tree_.columnCount(); ++column)
+    if (!tree_.isColumnHidden(column)) width += tree_.columnWidth(column);
+  tree_.setFixedWidth(std::max(width, tree_.minimumWidth()));
 }
 
 void ListViewView::showSelection() {

@@ -23,6 +23,7 @@ class ListViewView final : public View {
   void showRow(const ListItem& row, QTreeWidgetItem& item) const;
   void showSelection();
   void fitColumns();
+  void fitWidth();
   int widthOfTexts(int column) const;
 
   bool viewportEvent(QEvent& event);

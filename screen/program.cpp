@@ -1,6 +1,8 @@
 #include "screen/program.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include "canvas/qt_pictures.h"
 #include "screen/end_requests.h"
@@ -16,7 +18,19 @@ namespace orvane {
 
 void dressUp() { QApplication::setStyle(new ReadableStyle); }
 
+namespace {
+
+// What Qt itself says: context and system menus. Where the system has no such translation they stay English.
+void speakFrench() {
+  auto* translation = new QTranslator(qApp);
+  if (translation->load(QLocale(QLocale::French), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(translation);
+}
+
+}  // namespace
+
 int runProgram() {
+  speakFrench();
   dressUp();
   QApplication::setQuitOnLastWindowClosed(false);
   ScreenDialogs dialogs;

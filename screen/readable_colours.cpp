@@ -16,12 +16,6 @@ double luminance(const QColor& colour) {
   return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
-QColor blend(const QColor& from, const QColor& to, double share) {
-  const auto mixed = [share](float a, float b) { return a + (b - a) * static_cast<float>(share); };
-  return QColor::fromRgbF(mixed(from.redF(), to.redF()), mixed(from.greenF(), to.greenF()),
-                          mixed(from.blueF(), to.blueF()));
-}
-
 bool isDark(const QColor& background) { return contrast(background, Qt::white) > contrast(background, Qt::black); }
 
 bool isMark(Colour colour) { return colour == Colour::EssentialBroken || colour == Colour::AccessoryBroken; }
@@ -42,6 +36,12 @@ QString describedWith(QWidget& box, const QString& mark) {
 }
 
 }  // namespace
+
+QColor blend(const QColor& from, const QColor& to, double share) {
+  const auto mixed = [share](float a, float b) { return a + (b - a) * static_cast<float>(share); };
+  return QColor::fromRgbF(mixed(from.redF(), to.redF()), mixed(from.greenF(), to.greenF()),
+                          mixed(from.blueF(), to.blueF()));
+}
 
 double contrast(const QColor& one, const QColor& other) {
   const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
@@ -86,11 +86,16 @@ QPalette boxPalette(Colour backColor, const QPalette& palette) {
   return box;
 }
 
-QPalette readingPalette(const QPalette& palette) {
+QPalette readingPalette(bool enabled, const QPalette& palette) {
   QPalette box = palette;
-  box.setColor(
-      QPalette::Disabled, QPalette::Text,
-      readable(palette.color(QPalette::Disabled, QPalette::Text), palette.color(QPalette::Disabled, QPalette::Base)));
+  const auto from = enabled ? QPalette::Active : QPalette::Disabled;
+  box.setColor(QPalette::Text, readable(palette.color(from, QPalette::Text), palette.color(QPalette::Base)));
+  return box;
+}
+
+QPalette valuePalette() {
+  QPalette box;
+  box.setColor(QPalette::Base, Qt::transparent);
   return box;
 }
 

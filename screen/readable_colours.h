@@ -15,6 +15,9 @@ inline constexpr double readableContrast = 4.5;
 // From 1, the same brightness, to 21, black on white.
 double contrast(const QColor& one, const QColor& other);
 
+// Share 0 gives the first colour, 1 the second.
+QColor blend(const QColor& from, const QColor& to, double share);
+
 // 0xBBGGRR; a system colour is looked up in the palette.
 QColor screenColour(Colour colour, const QPalette& palette);
 
@@ -25,8 +28,12 @@ QColor readable(const QColor& colour, const QColor& background, double wanted = 
 // darkened on dark palettes, with text that can be read on it.
 QPalette boxPalette(Colour backColor, const QPalette& palette);
 
-// A palette for a box that is only read: disabled, it can be read as well.
-QPalette readingPalette(const QPalette& palette);
+// A palette for a box of lines that is only read: in the colour of what is disabled where it is, as far as that can be
+// read.
+QPalette readingPalette(bool enabled, const QPalette& palette);
+
+// What changes in a palette for a value that is no field: it stands on the ground that is there.
+QPalette valuePalette();
 
 // What a mark says in words; empty for the colours of the system.
 QString markInWords(Colour backColor);

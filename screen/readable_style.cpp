@@ -1,5 +1,9 @@
 #include "screen/readable_style.h"
 
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
 #include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
@@ -32,10 +36,25 @@ constexpr Outlined outlined[] = {
     {QStyle::PE_FrameGroupBox, Outline::Square, QPalette::Window},
     {QStyle::PE_FrameTabWidget, Outline::Square, QPalette::Window},
     {QStyle::PE_PanelButtonCommand, Outline::Rounded, QPalette::Window},
-    {QStyle::PE_IndicatorCheckBox, Outline::Square, QPalette::Base},
+    {QStyle::PE_IndicatorCheckBox, Outline::Square, QPalette::Button},
     {QStyle::PE_IndicatorItemViewItemCheck, Outline::Square, QPalette::Base},
-    {QStyle::PE_IndicatorRadioButton, Outline::Circle, QPalette::Base},
+    {QStyle::PE_IndicatorRadioButton, Outline::Circle, QPalette::Button},
 };
+
+int lineHeight(const QWidget* widget) {
+  return widget ? widget->fontMetrics().height() : QFontMetrics(QApplication::font()).height();
+}
+
+// What is told apart by its words only where they can be read.
+void makeDisabledReadable(QPalette& palette) {
+  constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> texts[] = {{QPalette::WindowText, QPalette::Window},
+                                                                           {QPalette::Text, QPalette::Base},
+                                                                           {QPalette::ButtonText, QPalette::Button}};
+  for (const auto& [text, ground] : texts)
+    palette.setColor(
+        QPalette::Disabled, text,
+        readable(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground), visibleContrast));
+}
 
 bool isIndicator(QStyle::PrimitiveElement element) {
   return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorItemViewItemCheck ||
@@ -91,18 +110,30 @@ QStyleOptionTitleBar withReadableTitle(const QStyleOptionTitleBar& bar) {
 
 }  // namespace
 
-// What is selected can be read.
+// What is selected can be read, and so can what is disabled.
 void ReadableStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
   for (const auto group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(
         group, QPalette::Highlight,
         readable(palette.color(group, QPalette::Highlight), palette.color(group, QPalette::HighlightedText)));
+  makeDisabledReadable(palette);
 }
 
 int ReadableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-  return metric == PM_FocusFrameHMargin ? usual + sideAir : usual;
+  switch (metric) {
+    case PM_FocusFrameHMargin:
+      return usual + sideAir;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_ButtonIconSize:
+      return std::max(usual, lineHeight(widget) - 1);
+    default:
+      return usual;
+  }
 }
 
 QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QSignalBlocker>
 #include <QTextCursor>
 
@@ -23,6 +24,7 @@ QString linesIn(const QPlainTextEdit& edit) {
 LineEditView::LineEditView(TextBox& box, QLineEdit& edit, FormView& form)
     : View(box, edit, form), box_(box), edit_(edit) {
   edit_.setReadOnly(box_.readOnly());
+  edit_.setFrame(!box_.readOnly());
   keepToOneLine(edit_);
   onEvent(edit_, [this](QEvent& event) { return enteredAtEnd(edit_, edit_, event); });
   on(&edit_, &QLineEdit::textEdited, [this] { act([&](User& user) { user.type(box_, fromQt(edit_.text())); }); });
@@ -31,6 +33,7 @@ LineEditView::LineEditView(TextBox& box, QLineEdit& edit, FormView& form)
 void LineEditView::show() {
   const QSignalBlocker silent(edit_);
   showBoxColour(edit_, box_.BackColor());
+  if (box_.readOnly() && markInWords(box_.BackColor()).isEmpty()) edit_.setPalette(valuePalette());
   const QString text = toQt(box_.Text());
   if (edit_.text() == text) return;
   const int cursor = edit_.cursorPosition();
@@ -50,7 +53,7 @@ MultiLineView::MultiLineView(TextBox& box, QPlainTextEdit& edit, FormView& form)
 void MultiLineView::show() {
   const QSignalBlocker silent(edit_);
   showBoxColour(edit_, box_.BackColor());
-  if (box_.readOnly()) edit_.setPalette(readingPalette(edit_.palette()));
+  if (box_.readOnly()) edit_.setPalette(readingPalette(box_.Enabled(), QApplication::palette(&edit_)));
   const QString text = shownLines(box_.Text());
   if (linesIn(edit_) == text) return;
   const int position = edit_.textCursor().position();

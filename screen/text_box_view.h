@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-// A text box of one line.
+// A text box of one line. One that is read only looks like a value, unless it bears a mark.
 class LineEditView final : public View {
  public:
   LineEditView(TextBox& box, QLineEdit& edit, FormView& form);
@@ -20,13 +20,15 @@ class LineEditView final : public View {
   QLineEdit& edit_;
 };
 
-// A text box of several lines: CR LF in the control is a line break on the screen and the other way round.
+// A text box of several lines: CR LF in the control is a line break on the screen and the other way round. One that is
+// read only and closed is shown as such, and can still be read.
 class MultiLineView final : public View {
  public:
   MultiLineView(TextBox& box, QPlainTextEdit& edit, FormView& form);
 
  private:
   void show() override;
+  bool isOpen() const override { return box_.readOnly() || box_.Enabled(); }
   void typed();
 
   TextBox& box_;

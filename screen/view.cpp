@@ -26,7 +26,7 @@ View::View(Control& control, QWidget& widget, FormView& form) : control_(control
 View::~View() { detach(); }
 
 void View::sync() {
-  widget_.setEnabled(control_.Enabled());
+  widget_.setEnabled(isOpen());
   widget_.setVisible(control_.Visible());
   show();
 }

@@ -38,6 +38,8 @@ class View : public ControlObserver {
   void controlChanged(Control& control) override;
 
  protected:
+  // Whether the widget takes input; what is read only can be scrolled and copied all the same.
+  virtual bool isOpen() const { return control_.Enabled(); }
   // What the kind shows beyond enabled and visible. Writes with the signals of the widget blocked.
   virtual void show() = 0;
 

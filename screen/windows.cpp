@@ -66,7 +66,7 @@ void Windows::showChild(Form& form) {
 
 // Where the one stood that it replaces, as large, and with the same side of the sheet in front.
 void Windows::place(ChildWindow& window) {
-  window.measure();
+  window.measure(main_->largestRoom());
   const auto former = std::exchange(vacated_, std::nullopt);
   const bool replaces = former && former->name == window.form().Name();
   window.openAt(replaces ? former->place.topLeft() : cornerFor(window), main_->largestRoom());

@@ -39,7 +39,7 @@ namespace {
 class Comparison {
  public:
   explicit Comparison(const Control& control, const QWidget& widget) : control_(control), widget_(widget) {
-    same("Enabled", widget.isEnabledTo(widget.parentWidget()), control.Enabled());
+    same("Enabled", widget.isEnabledTo(widget.parentWidget()), control.Enabled() || isOnlyRead(control, widget));
     same("Visible", widget.isVisibleTo(widget.parentWidget()), control.Visible());
     as(&Comparison::place);
     as(&Comparison::line) || as(&Comparison::lines) || as(&Comparison::combo) || as(&Comparison::list) ||
@@ -68,10 +68,18 @@ class Comparison {
          box.color(QPalette::Active, QPalette::Base));
     same("mark in words", widget_.accessibleDescription().contains("contrainte"), !markInWords(held).isEmpty());
   }
+  // A box of lines that is only read can be scrolled while it is closed.
+  static bool isOnlyRead(const Control& control, const QWidget& widget) {
+    const auto* box = dynamic_cast<const TextBox*>(&control);
+    return box && box->readOnly() && qobject_cast<const QPlainTextEdit*>(&widget);
+  }
   void line(const TextBox& box, const QLineEdit& edit) {
     same("Text", edit.text(), toQt(box.Text()));
     same("read-only", edit.isReadOnly(), box.readOnly());
-    colour(box.BackColor());
+    const bool isValue = box.readOnly() && markInWords(box.BackColor()).isEmpty();
+    same("frame", edit.hasFrame(), !box.readOnly());
+    same("ground", edit.palette().color(QPalette::Base).alpha(), isValue ? 0 : 255);
+    if (!isValue) colour(box.BackColor());
   }
   void lines(const TextBox& box, const QPlainTextEdit& edit) {
     // toPlainText would turn no-break spaces into blanks.

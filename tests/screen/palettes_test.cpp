@@ -96,9 +96,10 @@ TEST_F(Palettes, LetAClosedBoxBeRead) {
   auto& box = find<QWidget>(character, "txtAllDescro");
   onEach([&](const QPalette&) {
     const QPalette shown = box.palette();
-    EXPECT_GE(
-        contrast(shown.color(QPalette::Disabled, QPalette::Text), shown.color(QPalette::Disabled, QPalette::Base)),
-        readableContrast);
+    EXPECT_TRUE(box.isEnabled()) << "can be scrolled";
+    EXPECT_GE(contrast(shown.color(QPalette::Text), shown.color(QPalette::Base)), readableContrast);
+    const QPalette button = find<QWidget>(character, "cmdClose").palette();
+    EXPECT_GE(contrast(button.color(QPalette::Disabled, QPalette::ButtonText), button.color(QPalette::Button)), 2.9);
   });
 }
 
