@@ -4,6 +4,7 @@
 #include <cmath>
 #include <fontconfig/fontconfig.h>
 
+#include <QFile>
 #include <QFontDatabase>
 
 #include "surface/failure.h"
@@ -11,7 +12,8 @@
 namespace orvane {
 namespace {
 
-constexpr const char* family = "Liberation Serif";
+// Known under a name of our own: what else is called Liberation Serif on a machine may be another font or version.
+constexpr const char* family = "OrvaneText Serif";
 constexpr const char* file = "/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf";
 
 // No rule at all: what is not said is grey edges and full hinting. The other fonts are for characters that ours lacks.
@@ -26,9 +28,23 @@ FcConfig* ourRules() {
   return made;
 }
 
-// Of the fonts of this family, the one that was added last is taken.
+// A text as fonts hold it, in two bytes a character or in one.
+QByteArray nameBytes(const char* text, bool wide) {
+  QByteArray bytes;
+  for (; *text != 0; ++text) (wide ? bytes.append('\0') : bytes).append(*text);
+  return bytes;
+}
+
+bool addFont() {
+  QFile stored(file);
+  if (!stored.open(QIODevice::ReadOnly)) return false;
+  QByteArray font = stored.readAll();
+  for (const bool wide : {false, true}) font.replace(nameBytes("Liberation", wide), nameBytes("OrvaneText", wide));
+  return QFontDatabase::addApplicationFontFromData(font) >= 0 && QFontDatabase::hasFamily(family);
+}
+
 void requireFont() {
-  static const bool found = QFontDatabase::addApplicationFont(file) >= 0 && QFontDatabase::hasFamily(family);
+  static const bool found = addFont();
   if (!found) throw Failure("La police de la feuille manque : " + std::string(file) + " (paquet fonts-liberation).");
 }
 
