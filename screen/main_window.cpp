@@ -109,8 +109,9 @@ void MainWindow::open() {
 }
 
 QSize MainWindow::largestRoom() const {
-  const QSize around = frameGeometry().size() - area_.contentsRect().size();
-  return takesAll() ? area_.contentsRect().size() : screen()->availableGeometry().size() - around;
+  const QSize room = area_.contentsRect().size();
+  const QSize around = frameGeometry().size() - room;
+  return takesAll() ? room : room.expandedTo(screen()->availableGeometry().size() - around);
 }
 
 void MainWindow::makeRoomFor(const QRect& part) {

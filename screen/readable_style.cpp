@@ -45,15 +45,22 @@ int lineHeight(const QWidget* widget) {
   return widget ? widget->fontMetrics().height() : QFontMetrics(QApplication::font()).height();
 }
 
-// What is told apart by its words only where they can be read.
+// Who has chosen black and white asks for as much of what is disabled, too.
+double disabledContrast(const QPalette& palette) {
+  const double chosen = contrast(palette.color(QPalette::Active, QPalette::WindowText),
+                                 palette.color(QPalette::Active, QPalette::Window));
+  return chosen > 20 ? readableContrast : visibleContrast;
+}
+
 void makeDisabledReadable(QPalette& palette) {
+  const double wanted = disabledContrast(palette);
   constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> texts[] = {{QPalette::WindowText, QPalette::Window},
                                                                            {QPalette::Text, QPalette::Base},
                                                                            {QPalette::ButtonText, QPalette::Button}};
   for (const auto& [text, ground] : texts)
     palette.setColor(
         QPalette::Disabled, text,
-        readable(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground), visibleContrast));
+        readable(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground), wanted));
 }
 
 bool isIndicator(QStyle::PrimitiveElement element) {
@@ -142,6 +149,24 @@ QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
   if (type == CT_ItemViewItem) return usual + QSize(0, rowAir);
   if (type == CT_PushButton) return usual.expandedTo(size + QSize(2 * captionAir, 0));
   return usual;
+}
+
+// A platform gives some widgets palettes of their own, which no style gets to polish.
+void ReadableStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
+                                 const QString& text, QPalette::ColorRole role) const {
+  if (enabled) return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+  QPalette readableText = palette;
+  makeDisabledReadable(readableText);
+  QProxyStyle::drawItemText(painter, rect, flags, readableText, enabled, text, role);
+}
+
+void ReadableStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (!entry || element != CE_MenuItem) return QProxyStyle::drawControl(element, option, painter, widget);
+  QStyleOptionMenuItem readableEntry = *entry;
+  makeDisabledReadable(readableEntry.palette);
+  QProxyStyle::drawControl(element, &readableEntry, painter, widget);
 }
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
