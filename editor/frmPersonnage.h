@@ -159,6 +159,11 @@ class frmPersonnage : public Form {
   // Checks the whole character and colours its fields; false when an essential constraint is broken (validation.cpp).
   bool prcValidate();
 
+  // Hints (hints.cpp).
+  std::string hint(const Control& control) const override;
+  std::string tabHint(const Control& tabs, int tab) const override;
+  std::string stepped(const Control& arrow) const override;
+
  protected:
   void Form_Load() override;
   void Form_Activate() override;
@@ -290,6 +295,18 @@ class frmPersonnage : public Form {
   void giveUpPower();
   void enablePowerChoice(bool enabled);
   void drawPower();
+
+  // --- Hints
+  // What the arrow buttons of a tab step. Without a pool where nothing is selected.
+  struct Step {
+    std::string name;
+    std::string value;
+    const TextBox* pool = nullptr;
+    std::string range;
+  };
+  Step stepIn(int tab) const;
+  Step stepOfSkill() const;
+  Step stepOfArt() const;
 
   // --- Validation
   void checkFields(Verdict& verdict);

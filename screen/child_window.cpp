@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QCloseEvent>
 #include <QLayout>
@@ -33,9 +34,25 @@ Qt::WindowFlags frameFlags(bool resizable) {
   return resizable ? fixed | Qt::WindowMaximizeButtonHint : fixed | Qt::MSWindowsFixedSizeDialogHint;
 }
 
+// Qt calls a window by its title, which a new character lacks.
+class SpokenWindow final : public QAccessibleWidget {
+ public:
+  explicit SpokenWindow(QWidget& window) : QAccessibleWidget(&window, QAccessible::Window) {}
+  QString text(QAccessible::Text kind) const override {
+    const QString text = kind == QAccessible::Name ? widget()->windowTitle() : QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name && text.isEmpty() ? QStringLiteral("(sans nom)") : text;
+  }
+};
+
+QAccessibleInterface* spokenWindow(const QString&, QObject* object) {
+  auto* window = dynamic_cast<ChildWindow*>(object);
+  return window ? new SpokenWindow(*window) : nullptr;
+}
+
 }  // namespace
 
 ChildWindow::ChildWindow(Form& form, ScreenDoor& door) : door_(door), pane_(new QWidget) {
+  QAccessible::installFactory(spokenWindow);
   layOut(form, *pane_);
   design_ = pane_->size();
   setWidget(pane_);

@@ -1,7 +1,5 @@
 #include "screen/command_button_view.h"
 
-#include <optional>
-
 #include <QKeyEvent>
 #include <QStyle>
 
@@ -55,9 +53,9 @@ void CommandButtonView::click() {
   // A shortcut presses a button without bringing the keyboard there; the form's focus does move.
   if (!button_.hasFocus()) button_.setFocus(Qt::ShortcutFocusReason);
   // A button may compose or save a sheet; an arrow only steps.
-  std::optional<PointerShape> busy;
-  if (command_.picture() == CommandButton::Picture::None) busy.emplace(Qt::WaitCursor);
-  if (!busy) form().reveal(command_);
+  const auto nothing = [](User&) {};
+  if (command_.picture() != CommandButton::Picture::None) return takeStep(command_, nothing, nothing);
+  const PointerShape busy(Qt::WaitCursor);
   act([this](User& user) { user.click(command_); });
 }
 

@@ -64,6 +64,7 @@ void FormView::flush() {
   // Called by the event loop, through which nothing may be thrown.
   form_->desktop().perform([this] {
     for (auto* view : std::exchange(dirty_, {})) view->sync();
+    for (auto& view : views_) view->settle();
   });
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -114,6 +115,7 @@ std::string nameOf(const ListView& list, const ListItem& row) {
 QString spokenRow(const ListView& list, const ListItem& row) {
   QStringList said;
   if (const auto name = nameOf(list, row); !name.empty()) said << toQt(name);
+  if (row.Bold()) said << "compétence du profil";
   bool levelSaid = false;
   for (int column = 1; column <= row.subItemCount(); ++column) {
     const QString text = toQt(row.SubItems(column));
@@ -137,6 +139,7 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   if (list_.checkBoxes()) write(item, 0, Qt::CheckStateRole, row.Checked() ? Qt::Checked : Qt::Unchecked);
   for (int column = 1; column <= row.subItemCount() && column < tree_.columnCount(); ++column) {
     const auto& header = list_.ColumnHeaders()[static_cast<std::size_t>(column)];
+    if (header.width <= 0) continue;  // nobody is to read it
     const Qt::Alignment side = header.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
     write(item, column, Qt::DisplayRole, toQt(row.SubItems(column)));
     write(item, column, Qt::ToolTipRole, tree_.headerItem()->toolTip(column));
@@ -177,6 +180,17 @@ void ListViewView::fitWidth() {
   for (int column = 1; column < tree_.columnCount(); ++column)
     if (!tree_.isColumnHidden(column)) width += tree_.columnWidth(column);
   tree_.setFixedWidth(std::max(width, tree_.minimumWidth()));
+}
+
+void ListViewView::say(const QString& text) {
+  auto* item = tree_.currentItem();
+  auto* spoken = item ? QAccessible::queryAccessibleInterface(&tree_) : nullptr;
+  if (!spoken || !spoken->tableInterface()) return;
+  const QSignalBlocker silent(tree_);
+  item->setData(0, Qt::AccessibleDescriptionRole, text);
+  QAccessibleEvent news(spoken->tableInterface()->cellAt(tree_.indexOfTopLevelItem(item), 0),
+                        QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&news);
 }
 
 void ListViewView::showSelection() {
@@ -249,6 +263,19 @@ void ListViewView::toggle(QTreeWidgetItem* item) {
   if (!item) return;
   const int row = positionOf(item);
   act([&](User& user) { user.toggle(list_, row); });
+  if (!isDetached() && row <= list_.Count()) tellTick(row);
+}
+
+// Qt tells screen readers of no tick in a list.
+void ListViewView::tellTick(int row) {
+  form().flush();
+  auto* spoken = QAccessible::queryAccessibleInterface(&tree_);
+  auto* cell = spoken && spoken->tableInterface() ? spoken->tableInterface()->cellAt(row - 1, 0) : nullptr;
+  if (!cell) return;
+  QAccessible::State ticked;
+  ticked.checked = true;
+  QAccessibleStateChangeEvent news(cell, ticked);
+  QAccessible::updateAccessibility(&news);
 }
 
 void ListViewView::beginEdit() {

@@ -18,6 +18,8 @@ class ListViewView final : public View {
  private:
   void show() override;
   void reveal() override;
+  void say(const QString& text) override;
+  void tellTick(int row);
   void showColumns();
   void showRows();
   void showRow(const ListItem& row, QTreeWidgetItem& item) const;

@@ -33,6 +33,7 @@ OptionButtonView::OptionButtonView(OptionButton& option, QRadioButton& button, F
   auto* alone = new QButtonGroup(&button_);
   alone->setExclusive(false);
   alone->addButton(&button_);
+  button_.setAutoExclusive(true);
   button_.setFocusPolicy(Qt::StrongFocus);
   on(&button_, &QRadioButton::clicked, [this] { act([this](User& user) { user.click(option_); }); });
   onEvent(button_, [this](QEvent& event) { return arrowPressed(event); });

@@ -5,6 +5,9 @@
 
 #include <QApplication>
 
+#include "surface/combo_box.h"
+#include "surface/text_box.h"
+
 namespace orvane {
 namespace {
 
@@ -97,6 +100,12 @@ QPalette valuePalette() {
   QPalette box;
   box.setColor(QPalette::Base, Qt::transparent);
   return box;
+}
+
+Colour backColorOf(const Control& control) {
+  if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->BackColor();
+  if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) return combo->BackColor();
+  return Colour::WindowBackground;
 }
 
 QString markInWords(Colour backColor) {

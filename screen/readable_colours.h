@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QWidget>
 
+#include "surface/control.h"
 #include "surface/property.h"
 
 // The colours of the controls, made readable on whatever palette the user has chosen.
@@ -34,6 +35,9 @@ QPalette readingPalette(bool enabled, const QPalette& palette);
 
 // What changes in a palette for a value that is no field: it stands on the ground that is there.
 QPalette valuePalette();
+
+// Of a text or combo box; that of the system for all other kinds.
+Colour backColorOf(const Control& control);
 
 // What a mark says in words; empty for the colours of the system.
 QString markInWords(Colour backColor);

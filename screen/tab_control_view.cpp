@@ -1,13 +1,18 @@
 #include "screen/tab_control_view.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabBar>
 
 #include "canvas/qt_text.h"
+#include "screen/readable_colours.h"
 #include "surface/form.h"
+#include "surface/list_view.h"
 
 namespace orvane {
 
@@ -51,6 +56,64 @@ void TabControlView::shareLetters() const {
     if (widget_.isAncestorOf(button)) continue;
     const auto letter = QKeySequence::mnemonic(button->text());
     button->setShortcut(borne.contains(letter) ? QKeySequence() : letter);
+  }
+}
+
+namespace {
+
+// Told apart by their shape: a diamond stops, a triangle warns.
+QIcon markIcon(Colour mark, const QPalette& palette) {
+  if (markInWords(mark).isEmpty()) return {};
+  const bool essential = mark == Colour::EssentialBroken;
+  const QPolygonF shape =
+      essential ? QPolygonF({{16, 2}, {30, 16}, {16, 30}, {2, 16}}) : QPolygonF({{16, 3}, {30, 29}, {2, 29}});
+  QPixmap picture(32, 32);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ground = palette.color(QPalette::Window);
+  painter.setPen(QPen(palette.color(QPalette::WindowText), 2));
+  painter.setBrush(readable(essential ? QColor(200, 0, 0) : QColor(200, 150, 0), ground, 3));
+  painter.drawPolygon(shape);
+  return QIcon(picture);
+}
+
+int tabOf(const Control& control, const TabControl& tabs) {
+  const Control* part = &control;
+  while (part && part->holder() != &tabs) part = part->holder();
+  return part ? part->tab() : -1;
+}
+
+bool hasRedName(const Control& control) {
+  const auto* list = dynamic_cast<const ListView*>(&control);
+  return list && std::any_of(list->rows().begin(), list->rows().end(),
+                             [](const auto& row) { return row->ForeColor() == Colour::Red; });
+}
+
+}  // namespace
+
+Colour TabControlView::worstOn(int tab) const {
+  Colour worst = Colour::WindowBackground;
+  for (const auto* control : tabs_.form().controls()) {
+    if (tabOf(*control, tabs_) != tab) continue;
+    const Colour colour = hasRedName(*control) ? Colour::EssentialBroken : backColorOf(*control);
+    if (colour == Colour::EssentialBroken) return colour;
+    if (colour == Colour::AccessoryBroken) worst = colour;
+  }
+  return worst;
+}
+
+void TabControlView::settle() {
+  auto* bar = widget_.tabBar();
+  for (int i = 0; i < widget_.count() && i < tabs_.Tabs(); ++i) {
+    const Colour mark = worstOn(i);
+    QStringList words{markInWords(mark), toQt(tabs_.form().tabHint(tabs_, i))};
+    words.removeAll(QString());
+    const QString said = words.join(", ");
+    if (bar->tabToolTip(i) == said && bar->tabIcon(i).isNull() == markInWords(mark).isEmpty()) continue;
+    bar->setTabIcon(i, markIcon(mark, bar->palette()));
+    bar->setTabToolTip(i, said);
+    bar->setAccessibleTabName(i, said.isEmpty() ? QString() : toQt(tabs_.TabCaption(i)) + ", " + said);
   }
 }
 

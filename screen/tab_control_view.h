@@ -15,11 +15,14 @@ class TabControlView final : public View {
   TabControlView(TabControl& tabs, QTabWidget& widget, FormView& form);
 
   QWidget& focusWidget() override;
+  // Marks the tabs with fields that the check has coloured, and says of a closed one why.
+  void settle() override;
 
  private:
   void show() override;
   // A letter that a button of the open tab bears is that button's alone.
   void shareLetters() const;
+  Colour worstOn(int tab) const;
   bool barEvent(QEvent& event);
   bool pressed(const QMouseEvent& event);
   bool keyPressed(const QKeyEvent& event);

@@ -2,8 +2,11 @@
 
 #include <utility>
 
+#include "canvas/qt_text.h"
 #include "screen/form_view.h"
+#include "screen/readable_colours.h"
 #include "screen/steps.h"
+#include "surface/form.h"
 
 namespace orvane {
 namespace {
@@ -19,7 +22,8 @@ class EventHook : public QObject {
 
 }  // namespace
 
-View::View(Control& control, QWidget& widget, FormView& form) : control_(control), widget_(widget), form_(form) {
+View::View(Control& control, QWidget& widget, FormView& form)
+    : control_(control), widget_(widget), form_(form), designHint_(widget.toolTip()) {
   control_.watch(*this);
 }
 
@@ -44,16 +48,37 @@ void View::act(const Deed& deed) {
   form_.schedule(*this);
 }
 
+void View::settle() {
+  QStringList words{designHint_, markInWords(backColorOf(control_)), toQt(control_.form().hint(control_))};
+  words.removeAll(QString());
+  const QString hint = words.join(", ");
+  if (widget_.toolTip() != hint) widget_.setToolTip(hint);
+}
+
+void View::say(const QString& text) {
+  focusWidget().setAccessibleDescription(QString());  // the same words are news each time
+  focusWidget().setAccessibleDescription(text);
+}
+
+void View::takeStep(CommandButton& arrow, const Deed& before, const Deed& after) {
+  form_.reveal(arrow);
+  std::string former;
+  act([&](User& user) {
+    before(user);
+    former = arrow.form().stepped(arrow);
+    user.click(arrow);
+    after(user);
+  });
+  const std::string now = detached_ ? std::string() : arrow.form().stepped(arrow);
+  if (now.empty()) return;
+  say(now == former ? "Refusé : " + toQt(now) + " (" + toQt(arrow.form().hint(arrow)) + ")" : toQt(now));
+}
+
 bool View::stepPressed(const QEvent& event, const Deed& select) {
   const int step = stepAskedBy(event);
   auto* arrow = step == 0 ? nullptr : arrowBeside(control_, step);
   if (!arrow) return false;
-  reveal();
-  act([&](User& user) {
-    if (select) select(user);
-    user.click(*arrow);
-    user.focus(control_);
-  });
+  takeStep(*arrow, select, [this](User& user) { user.focus(control_); });
   return true;
 }
 

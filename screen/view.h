@@ -11,6 +11,7 @@
 
 namespace orvane {
 
+class CommandButton;
 class FormView;
 
 // The widget of one control. The control is the truth: a view reads it when it has changed, and turns what the user
@@ -34,6 +35,8 @@ class View : public ControlObserver {
 
   // Brings what an arrow button steps into sight.
   virtual void reveal() {}
+  // Shows what depends on other controls, once all that changed is shown.
+  virtual void settle();
 
   void controlChanged(Control& control) override;
 
@@ -45,9 +48,14 @@ class View : public ControlObserver {
 
   bool isDetached() const { return detached_; }
   FormView& form() const { return form_; }
+  // Tells screen readers what has happened to what has the keyboard.
+  virtual void say(const QString& text);
+  // A click on an arrow button, and what is to be done around it. Says what came of it.
+  void takeStep(CommandButton& arrow, const Deed& before, const Deed& after);
   // For a key that steps: as a click on the arrow button beside the control, which keeps the focus. Selects the control
   // first. False for any other event.
-  bool stepPressed(const QEvent& event, const Deed& select = {});
+  bool stepPressed(
+      const QEvent& event, const Deed& select = [](User&) {});
   // Of another control of the form; none when it is not on the screen.
   View* viewOf(const Control& other) const;
 
@@ -62,6 +70,7 @@ class View : public ControlObserver {
   Control& control_;
   QWidget& widget_;
   FormView& form_;
+  const QString designHint_;
   bool detached_ = false;
   QObject context_;
 };

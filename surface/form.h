@@ -67,6 +67,13 @@ class Form : public std::enable_shared_from_this<Form> {
   Control* find(std::string_view name, std::optional<int> index) const;
   Control* focused() const { return focused_; }
 
+  // What a screen says in hints and to screen readers. Each may be empty.
+  // Why a control cannot be used, or how far it goes and what it costs.
+  virtual std::string hint(const Control&) const { return {}; }
+  virtual std::string tabHint(const Control&, int) const { return {}; }
+  // What an arrow button has stepped: "Corps 2, reste 8".
+  virtual std::string stepped(const Control&) const { return {}; }
+
  protected:
   virtual void Form_Load() {}
   virtual void Form_Activate() {}

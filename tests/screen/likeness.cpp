@@ -149,15 +149,16 @@ class Comparison {
   void rows(const ListView& list, const QTreeWidget& tree) {
     same("Count", tree.topLevelItemCount(), list.Count());
     for (int i = 0; i < std::min(tree.topLevelItemCount(), list.Count()); ++i)
-      row(list, *list.ListItems(i + 1), *tree.topLevelItem(i));
+      row(list, tree, *list.ListItems(i + 1), *tree.topLevelItem(i));
     const auto* selected = list.SelectedItem() ? tree.topLevelItem(list.SelectedItem()->Index() - 1) : nullptr;
     same("SelectedItem", const_cast<const QTreeWidgetItem*>(tree.currentItem()), selected);
     same("selection", tree.selectedItems().size(), qsizetype{selected != nullptr});
   }
-  void row(const ListView& list, const ListItem& row, const QTreeWidgetItem& item) {
+  void row(const ListView& list, const QTreeWidget& tree, const ListItem& row, const QTreeWidgetItem& item) {
     cell(item, 0, row.Text(), row.Bold(), row.ForeColor());
     if (list.checkBoxes()) same("Checked", item.checkState(0) == Qt::Checked, row.Checked());
     for (int i = 1; i <= row.subItemCount(); ++i) {
+      if (tree.isColumnHidden(i)) continue;
       const auto& look = row.ListSubItems(i);
       cell(item, i, row.SubItems(i), look.Bold(), look.ForeColor());
       const bool right = (item.textAlignment(i) & Qt::AlignRight) != 0;
