@@ -48,16 +48,20 @@ class ContentsCheck {
     for (std::int32_t i = 1; i <= records.Count(); ++i) {
       const auto [former, isNew] = known.try_emplace(groupOf(*records(i)) + foldedName(records(i)->sName), i);
       if (!isNew) findAlike(format.file, records(former->second)->sName, former->second, records(i)->sName, i);
-      if constexpr (requires { records(i)->sDescro; }) checkReturns(records(i)->sDescro, format.file, i);
+      checkReturns(records(i)->sName, format.file, i, "sName", ", où il ne vaut rien");
+      if constexpr (requires { records(i)->sDescro; })
+        checkReturns(records(i)->sDescro, format.file, i, "sDescro", " : il s'écrit [return]");
     }
   }
 
   // Those that the reader has turned into line ends are gone by now.
-  void checkReturns(std::string_view description, std::string_view file, std::int32_t position) {
-    for (auto at = description.find('['); at != std::string_view::npos; at = description.find('[', at + 1))
-      if (const auto word = description.substr(at, 8); word.ends_with(']') && lowerCase(word) == "[return]")
-        return folder_.findings.add(literalReturn, folder_.places.of(file, position, "sDescro"),
-                                    std::string(word) + " reste tel quel dans ce texte");
+  void checkReturns(std::string_view text, std::string_view file, std::int32_t position, std::string_view member,
+                    std::string_view advice) {
+    for (auto at = text.find('['); at != std::string_view::npos; at = text.find('[', at + 1))
+      if (const auto word = text.substr(at, 8); word.ends_with(']') && lowerCase(word) == "[return]")
+        return folder_.findings.add(literalReturn, folder_.places.of(file, position, member),
+                                    std::string(word) + " reste tel quel dans ce texte" +
+                                        std::string(word == "[return]" ? ", où il ne vaut rien" : advice));
   }
 
   // Powers are told apart by their category and sign, too.

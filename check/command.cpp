@@ -51,6 +51,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
       line.wantsVersion = true;
     else if (argument == "--format" && i + 1 < arguments.size())
       line.format = formatOf(arguments[++i]);
+    else if (argument == "--format")
+      throw Failure("--format sans valeur\n" + std::string(usage));
     else if (argument.starts_with("--format="))
       line.format = formatOf(argument.substr(argument.find('=') + 1));
     else if (argument.starts_with('-'))
@@ -82,10 +84,11 @@ int check(const CommandLine& line, std::ostream& out, Pictures& pictures) {
     return 0;
   }
   const std::string folder = line.folder.value_or(".");
-  DiskFiles().list(folder);  // fails where it cannot be read
+  DiskFiles files;
+  if (files.fileExists(folder)) throw Failure(folder + " n'est pas un dossier");
+  files.list(folder);  // fails where it cannot be read
   const auto findings = checkFolder(folder, pictures, line.withSheets);
   report(findings, folder, line.format, out);
-  if (!out.flush()) throw Failure("le rapport n'a pas pu être écrit");
   return statusOf(findings);
 }
 
@@ -93,7 +96,9 @@ int check(const CommandLine& line, std::ostream& out, Pictures& pictures) {
 
 int checkCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, Pictures& pictures) {
   try {
-    return check(parseCommandLine(arguments), out, pictures);
+    const int status = check(parseCommandLine(arguments), out, pictures);
+    if (!out.flush()) throw Failure("le rapport n'a pas pu être écrit");
+    return status;
   } catch (const Failure& failure) {
     err << "orvane-check: " << failure.what() << '\n';
     return notChecked;

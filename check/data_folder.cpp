@@ -96,12 +96,13 @@ class FolderReading : public Reading {
   void fault(const Fault& fault) override {
     loose_.reset();  // whatever stands there, a fault says more
     if (fault.kind <= FaultKind::NoLineEnd) folder_.unread.insert(fault.at.file);
-    if (fault.kind == FaultKind::UnknownTechnic && !folder_.wasRead(martialTechnicFormat.file)) return;
+    if (isConsequence(fault)) return;
     DataPlace place{fault.at.file, fault.at.line, fault.column, fault.at.field.member};
     if (fault.kind == FaultKind::NoAssermente) place.line = lineLikeAssermente();
     const auto [kind, text] = toldOf(fault);
     folder_.findings.add(kind, place, text);
     if (!place.member.empty()) folder_.places.spoil(fault.kind == FaultKind::Separator);
+    isAssermenteOutOfReach_ |= fault.kind == FaultKind::AssermenteOutOfReach;
   }
 
   void field(const FieldText& text) override {
@@ -119,6 +120,13 @@ class FolderReading : public Reading {
   }
 
  private:
+  // Of a finding that the user has already.
+  bool isConsequence(const Fault& fault) const {
+    if (fault.kind == FaultKind::UnknownTechnic)
+      return !folder_.wasRead(martialTechnicFormat.file) || !folder_.places.hasRecords(martialTechnicFormat.file);
+    return fault.kind == FaultKind::NoAssermente && (isAssermenteOutOfReach_ || folder_.data.colProfil.Count() == 0);
+  }
+
   void findLooseNumber() {
     if (!loose_) return;
     folder_.findings.add(looseNumber, loose_->first, loose_->second);
@@ -138,6 +146,7 @@ class FolderReading : public Reading {
   DataFolder& folder_;
   // The field told last, of a list, where it is more or less than a number.
   std::optional<std::pair<DataPlace, std::string>> loose_;
+  bool isAssermenteOutOfReach_ = false;
 };
 
 constexpr std::size_t longestTitle = 60;  // of a column, characters

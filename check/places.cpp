@@ -23,6 +23,11 @@ void Places::spoil(bool restOfLine) {
   now_->isBroken |= restOfLine;
 }
 
+bool Places::hasRecords(std::string_view file) const {
+  const auto found = files_.find(file);
+  return found != files_.end() && !found->second.records.empty();
+}
+
 DataPlace Places::of(std::string_view file, std::int32_t position, std::string_view member, std::int32_t nth) const {
   const auto& [records, cells, underWay, isBroken] = files_.at(file);
   const auto record = static_cast<std::size_t>(position);

@@ -25,6 +25,7 @@ class Places {
   // The field told last means nothing; nor does what follows in its line, where that is broken there.
   void spoil(bool restOfLine);
 
+  bool hasRecords(std::string_view file) const;
   // The field of a record, which is counted from 1 in its file, that fills a member; of a list the n-th one.
   DataPlace of(std::string_view file, std::int32_t position, std::string_view member, std::int32_t nth = 1) const;
 

@@ -94,7 +94,7 @@ TEST_F(Check, TheCommandLineIsExplained) {
   EXPECT_EQ(status, 0);
   const std::pair<std::vector<std::string>, std::string> cases[] = {
       {{"--faults"}, "option inconnue : --faults"},
-      {{"--format"}, "option inconnue : --format"},
+      {{"--format"}, "--format sans valeur"},
       {{"--format=xml"}, "format inconnu : xml"},
       {{"forty", "others"}, "plus d'un dossier : others"},
   };
