@@ -6,6 +6,7 @@
 #include "check/skill_index.h"
 #include "check/trial.h"
 #include "data/record_formats.h"
+#include "editor/pools.h"
 #include "editor/skill_rules.h"
 #include "surface/numbers.h"
 

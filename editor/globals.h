@@ -1,8 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
 
-#include "editor/pools.h"
 #include "surface/chance.h"
 
 namespace orvane {
@@ -21,8 +22,8 @@ struct Globals {
   const ReferenceData& data;
   Chance chance;
 
-  // Filled by Main.
-  ContactPrices iContactCost{};
+  // Prices by the value that they lead to. Filled by Main.
+  std::array<std::int16_t, 4> iContactCost{};
   // The windows last created or activated; null once they were unloaded and no other of the kind is open.
   frmPersonnage* frmCurrentPerso = nullptr;
   frmFeuille* frmCurrentFeuille = nullptr;

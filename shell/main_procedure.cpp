@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "data/load_data.h"
+#include "editor/pools.h"
 #include "sheet/composition.h"
 #include "sheet/recovery.h"
 #include "shell/FrmReadMe.h"
