@@ -4,6 +4,7 @@
 #include <cmath>
 #include <fontconfig/fontconfig.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFontDatabase>
 
@@ -16,14 +17,18 @@ namespace {
 constexpr const char* family = "OrvaneText Serif";
 constexpr const char* file = "/usr/share/fonts/truetype/liberation/LiberationSerif-Regular.ttf";
 
+// Beside the programs, where they were moved with all that they need.
+QString ownFonts() { return QCoreApplication::applicationDirPath() + "/../fonts"; }
+
 // No rule at all: what is not said is grey edges and full hinting. The other fonts are for characters that ours lacks.
-constexpr const char* rules =
-    "<fontconfig><dir>/usr/share/fonts</dir>"
-    "<cachedir>/var/cache/fontconfig</cachedir><cachedir prefix=\"xdg\">fontconfig</cachedir></fontconfig>";
+QByteArray rules() {
+  return "<fontconfig><dir>/usr/share/fonts</dir><dir>" + ownFonts().toHtmlEscaped().toUtf8() +
+         "</dir><cachedir>/var/cache/fontconfig</cachedir><cachedir prefix=\"xdg\">fontconfig</cachedir></fontconfig>";
+}
 
 FcConfig* ourRules() {
   FcConfig* made = FcConfigCreate();
-  FcConfigParseAndLoadFromMemory(made, reinterpret_cast<const FcChar8*>(rules), FcTrue);
+  FcConfigParseAndLoadFromMemory(made, reinterpret_cast<const FcChar8*>(rules().constData()), FcTrue);
   FcConfigBuildFonts(made);
   return made;
 }
@@ -36,7 +41,8 @@ QByteArray nameBytes(const char* text, bool wide) {
 }
 
 bool addFont() {
-  QFile stored(file);
+  QFile stored(ownFonts() + "/LiberationSerif-Regular.ttf");
+  if (!stored.exists()) stored.setFileName(file);
   if (!stored.open(QIODevice::ReadOnly)) return false;
   QByteArray font = stored.readAll();
   for (const bool wide : {false, true}) font.replace(nameBytes("Liberation", wide), nameBytes("OrvaneText", wide));

@@ -40,6 +40,7 @@ class WorkFolder {
       end = folder_.find('/', end + 1);
       if (const auto part = folder_.substr(0, end); !files_.directoryExists(part)) files_.MkDir(part);
     }
+    if (!files_.directoryExists(folder_)) throw Failure("Ce n'est pas un dossier : " + folder_ + ".");
   }
 
   void read() {

@@ -45,11 +45,9 @@ EndRequests::~EndRequests() {
 }
 
 void EndRequests::closeAll() {
-  auto* main = windows_.mainWindow();
-  if (!main) return;
   auto* waiting = QApplication::activeModalWidget();
-  (waiting ? waiting : main)->close();
-  // What a box has held up goes on first, and may show another one.
+  if (QWidget* next = waiting ? waiting : windows_.mainWindow()) next->close();
+  // What a box has held up goes on first, and may show another one; the main window may still be to come.
   QTimer::singleShot(10, this, [this] { closeAll(); });
 }
 

@@ -103,6 +103,10 @@ TEST(Windows1252, LacksFiveCharacters) {
     if (!inWindows1252(static_cast<char>(code))) lacking += static_cast<char>(code);
   EXPECT_EQ(lacking, "\x81\x8D\x8F\x90\x9D");
   EXPECT_EQ(fromWindows1252("~\x7F\x80\x82\x9C\x99\xA0\xFF"), "~\x7F€‚œ™\u00A0ÿ");
+  std::string back;
+  for (const char32_t character : U"~\x7F€‚œ™\u00A0ÿ") back += toWindows1252(character).value_or('?');
+  EXPECT_EQ(back, std::string("~\x7F\x80\x82\x9C\x99\xA0\xFF\0", 9));
+  EXPECT_EQ(toWindows1252(U'ω'), std::nullopt);
 }
 
 TEST(ReturnMarker, BecomesALineEndWhereverItStands) {
