@@ -23,7 +23,7 @@ struct Element {
 class ProfileCheck {
  public:
   ProfileCheck(DataFolder& folder, const Offer& offer, Pictures& pictures)
-      : folder_(folder), data_(folder.data), offer_(offer), pictures_(pictures), index_(folder.data) {
+      : folder_(folder), data_(folder.data), offer_(offer), pictures_(pictures), index_(folder) {
     for (const auto& skill : data_.colSkill)
       nameless_.push_back(std::make_shared<clsSkill>(
           clsSkill{.iKey = skill->iKey, .sName = {}, .iStart = skill->iStart, .sDescro = {}}));

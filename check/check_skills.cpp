@@ -1,3 +1,9 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdlib>
+#include <map>
+
 #include "check/checks.h"
 #include "check/names.h"
 #include "check/skill_index.h"
@@ -14,30 +20,75 @@ class SkillCheck {
       : folder_(folder),
         data_(folder.data),
         vehicles_(offer.vehicles),
-        index_(folder.data),
+        index_(folder),
         isUsed_(static_cast<std::size_t>(folder.data.colSkill.Count()) + 1) {}
 
   void run() {
-    for (const auto& vehicle : vehicles_) checkPosition(vehicle);
+    checkPositions();
     for (std::int32_t i = 1; i <= data_.colProfil.Count(); ++i) checkKeys(i);
+    findUnknownSkills();
     for (std::int32_t i = 1; i <= data_.colSkill.Count(); ++i) checkSkill(i);
   }
 
  private:
-  void checkPosition(const Vehicle& vehicle) {
+  // A vehicle whose skill stands elsewhere.
+  struct Moved {
+    Vehicle vehicle;
+    std::int32_t now;  // position in colSkill
+  };
+
+  void checkPositions() {
+    std::map<std::int32_t, std::vector<Moved>> moved;  // by the distance
+    for (const auto& vehicle : vehicles_)
+      if (const auto now = positionOf(vehicle); now != vehicle.skill)
+        moved[now - vehicle.skill].push_back({vehicle, now});
+    for (const auto& [distance, vehicles] : moved)
+      if (!isConsequence(distance, vehicles, moved)) findMoved(vehicles);
+  }
+
+  // Where the skill of a vehicle stands; its own position where nothing is wrong with it, or that is found at once.
+  std::int32_t positionOf(const Vehicle& vehicle) {
     const auto& skills = data_.colSkill;
-    const std::string what =
-        "le véhicule " + quoted(vehicle.name) + " donne la compétence n° " + std::to_string(vehicle.skill) + ", ";
-    if (vehicle.skill > skills.Count())
-      return folder_.findings.add(vehiclePosition, {skillFormat.file},
-                                  what + "et il n'y en a que " + std::to_string(skills.Count()));
-    const auto& given = skills(vehicle.skill)->sName;
-    if (isAbout(given, vehicle)) return;
+    if (vehicle.skill > skills.Count()) {
+      folder_.findings.add(vehiclePosition, {skillFormat.file},
+                           given(vehicle) + ", et il n'y en a que " + std::to_string(skills.Count()));
+      return vehicle.skill;
+    }
+    const auto& skill = *skills(vehicle.skill);
+    if (skill.iKey == vehicleCode)
+      folder_.findings.add(vehiclePosition, nameOfSkill(vehicle.skill),
+                           given(vehicle) + ", " + quoted(skill.sName) + ", dont la clé 101 n'est jamais proposée");
+    if (skill.iKey == vehicleCode || isAbout(skill.sName, vehicle)) return vehicle.skill;
     for (std::int32_t i = 1; i <= skills.Count(); ++i)
-      if (isAbout(skills(i)->sName, vehicle))
-        return folder_.findings.add(
-            vehiclePosition, nameOfSkill(vehicle.skill),
-            what + quoted(given) + " : " + quoted(skills(i)->sName) + " est la n° " + std::to_string(i));
+      if (isAbout(skills(i)->sName, vehicle)) return i;
+    return vehicle.skill;
+  }
+
+  // A line taken from one side of a skill to the other moves it by one; so does the skill of another vehicle.
+  static bool isConsequence(std::int32_t distance, const std::vector<Moved>& vehicles,
+                            const std::map<std::int32_t, std::vector<Moved>>& moved) {
+    for (const auto& [other, cause] : moved)
+      if (distance == (other > 0 ? -1 : 1) && std::abs(other) > 1 && cause.size() == 1 &&
+          std::all_of(vehicles.begin(), vehicles.end(), [&](const auto& one) {
+            const auto [low, high] = std::minmax(cause.front().vehicle.skill, cause.front().now);
+            return low < one.vehicle.skill && one.vehicle.skill < high;
+          }))
+        return true;
+    return false;
+  }
+
+  void findMoved(const std::vector<Moved>& vehicles) {
+    std::vector<std::string> texts;
+    for (const auto& [vehicle, now] : vehicles)
+      texts.push_back(given(vehicle) + ", " + quoted(data_.colSkill(vehicle.skill)->sName) + " : " +
+                      quoted(data_.colSkill(now)->sName) + " est la n° " + std::to_string(now));
+    const auto first = std::min_element(vehicles.begin(), vehicles.end(),
+                                        [](const auto& a, const auto& b) { return a.vehicle.skill < b.vehicle.skill; });
+    folder_.findings.add(vehiclePosition, nameOfSkill(first->vehicle.skill), listed(texts));
+  }
+
+  static std::string given(const Vehicle& vehicle) {
+    return "le véhicule " + quoted(vehicle.name) + " donne la compétence n° " + std::to_string(vehicle.skill);
   }
 
   void checkKeys(std::int32_t profile) {
@@ -48,9 +99,25 @@ class SkillCheck {
       if (key == vehicleCode)
         for (const auto& vehicle : vehicles_) use(vehicle.skill);
       else if (index_.positionsOf(key).empty())
-        folder_.findings.add(unknownSkill, folder_.places.of(profilFormat.file, profile, "colSkillPro", nth),
-                             "aucune compétence n'a la clé " + numberText(key));
+        if (const auto place = folder_.places.of(profilFormat.file, profile, "colSkillPro", nth); place.isSound)
+          unknown_[key].push_back(place);
     }
+  }
+
+  // Places that want the same key are one finding: it is the skill that is missing.
+  void findUnknownSkills() {
+    for (const auto& [key, places] : unknown_)
+      if (!folder_.isDoubtful(skillFormat.file, key) && !isFixed(key))
+        folder_.findings.add(unknownSkill, places.front(),
+                             "aucune compétence n'a la clé " + shown(key) + alsoCited(places));
+  }
+
+  // A missing skill of the rules is found without them.
+  static bool isFixed(double key) { return key == martialSkillKey || isNamedByUser(key); }
+
+  static std::string shown(double key) {
+    std::array<char, 32> text{};
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), key).ptr};
   }
 
   void use(std::int32_t skill) {
@@ -69,9 +136,13 @@ class SkillCheck {
     if (skill.iKey == vehicleCode)
       folder_.findings.add(unreachableSkill, nameOfSkill(position),
                            quoted(skill.sName) + " a la clé 101 du véhicule de prédilection et n'est jamais proposée");
-    else if (!isUsed_[static_cast<std::size_t>(position)] && data_.colProfil.Count() > 0)
+    else if (!isUsed_[static_cast<std::size_t>(position)] && areProfilesRead() &&
+             !folder_.isDoubtful(profilFormat.file, skill.iKey))
       folder_.findings.add(unusedSkill, nameOfSkill(position), quoted(skill.sName) + " n'est dans aucun profil");
   }
+
+  // Without "Assermenté", which brings skills of its own, too much is unused.
+  bool areProfilesRead() const { return data_.colProfil.Count() > 0 && data_.iProfilAsserm > 0; }
 
   DataPlace nameOfSkill(std::int32_t position) const { return folder_.places.of(skillFormat.file, position, "sName"); }
 
@@ -79,7 +150,8 @@ class SkillCheck {
   const ReferenceData& data_;
   const std::vector<Vehicle>& vehicles_;
   const SkillIndex index_;
-  std::vector<bool> isUsed_;  // by the position of a skill: some profile names it
+  std::map<double, std::vector<DataPlace>> unknown_;  // in profiles, by their keys
+  std::vector<bool> isUsed_;                          // by the position of a skill: some profile names it
 };
 
 }  // namespace

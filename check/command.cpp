@@ -20,7 +20,7 @@ constexpr std::string_view help =
     "  --format text   une ligne par constat : fichier:ligne:colonne: gravité: texte\n"
     "  --format json   les mêmes, en objets, avec des codes qui ne changent pas\n"
     "  --sheet         mesure aussi ce que la feuille imprime, dans sa police\n"
-    "  --help          cette aide\n"
+    "  -h, --help      cette aide\n"
     "  --version       la version\n\n"
     "Code de sortie : 0 rien à redire (ou des remarques), 1 des avertissements, 2 des erreurs,\n"
     "3 rien n'a pu être contrôlé.\n";
@@ -39,13 +39,23 @@ ReportFormat formatOf(const std::string& name) {
   throw Failure("format inconnu : " + name + "\n" + std::string(usage));
 }
 
+void takeFolder(CommandLine& line, const std::string& argument) {
+  if (line.folder) throw Failure("plus d'un dossier : " + argument + "\n" + std::string(usage));
+  line.folder = argument;
+}
+
 CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
   CommandLine line;
+  bool onlyFolders = false;  // behind "--"
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const auto& argument = arguments[i];
-    if (argument == "--sheet")
+    if (!onlyFolders && argument == "--")
+      onlyFolders = true;
+    else if (onlyFolders || !argument.starts_with('-'))
+      takeFolder(line, argument);
+    else if (argument == "--sheet")
       line.withSheets = true;
-    else if (argument == "--help")
+    else if (argument == "--help" || argument == "-h")
       line.wantsHelp = true;
     else if (argument == "--version")
       line.wantsVersion = true;
@@ -55,12 +65,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
       throw Failure("--format sans valeur\n" + std::string(usage));
     else if (argument.starts_with("--format="))
       line.format = formatOf(argument.substr(argument.find('=') + 1));
-    else if (argument.starts_with('-'))
-      throw Failure("option inconnue : " + argument + "\n" + std::string(usage));
-    else if (line.folder)
-      throw Failure("plus d'un dossier : " + argument + "\n" + std::string(usage));
     else
-      line.folder = argument;
+      throw Failure("option inconnue : " + argument + "\n" + std::string(usage));
   }
   return line;
 }
@@ -87,6 +93,8 @@ int check(const CommandLine& line, std::ostream& out, Pictures& pictures) {
   DiskFiles files;
   if (files.fileExists(folder)) throw Failure(folder + " n'est pas un dossier");
   files.list(folder);  // fails where it cannot be read
+  // Its files are out of reach where only its names may be read.
+  if (!files.directoryExists(folder + "/.")) throw Failure("Lecture impossible : " + folder + " (accès refusé).");
   const auto findings = checkFolder(folder, pictures, line.withSheets);
   report(findings, folder, line.format, out);
   return statusOf(findings);

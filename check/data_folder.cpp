@@ -6,6 +6,7 @@
 #include "check/mended_bytes.h"
 #include "check/names.h"
 #include "check/nobody.h"
+#include "check/report.h"
 #include "data/excerpt.h"
 #include "data/record_formats.h"
 #include "surface/disk_files.h"
@@ -15,6 +16,9 @@
 namespace orvane {
 namespace {
 
+constexpr std::string_view technicsOfArt = "colMartialTechnic";
+constexpr std::size_t longestKey = 5;  // digits
+
 // The files of the folder, mended.
 class FolderFiles : public DiskFiles {
  public:
@@ -23,20 +27,27 @@ class FolderFiles : public DiskFiles {
   // By the path of the data file, titles with their line ends.
   std::map<std::string, std::string> titles;
 
-  bool fileExists(const std::string& path) override { return DiskFiles::fileExists(folder_ + "/" + path); }
+  bool fileExists(const std::string& path) override { return DiskFiles::fileExists(pathInFolder(path)); }
   std::string read(const std::string& path) override {
-    const auto file = std::string_view(path).substr(path.rfind('/') + 1);
-    std::string bytes = mendedBytes(DiskFiles::read(folder_ + "/" + path), file, findings_);
+    std::string bytes = mendedBytes(DiskFiles::read(pathInFolder(path)), nameIn(path), findings_);
     titles[path] = bytes.substr(0, bytes.find('\n'));
     return bytes;
   }
 
  private:
+  static std::string_view nameIn(std::string_view path) { return path.substr(path.rfind('/') + 1); }
+  std::string pathInFolder(std::string_view path) const { return pathOf(folder_, nameIn(path)); }
+
   std::string folder_;
   Findings& findings_;
 };
 
 std::string shown(std::string_view bytes) { return bytes.empty() ? "un champ vide" : excerpt(bytes); }
+
+bool isBlankLine(const Fault& fault) {
+  return fault.kind == FaultKind::Separator && fault.at.position == 1 &&
+         fault.at.bytes.find_first_not_of(' ') == std::string_view::npos;
+}
 
 struct Told {
   FindingKind kind;
@@ -58,9 +69,8 @@ Told toldOf(const Fault& fault) {
       return {noAssermente, "pas de profil « Assermenté » : la lecture s'arrête derrière ce fichier"};
     case FaultKind::AssermenteOutOfReach:
       return {assermenteOutOfReach, "le profil « Assermenté » vient au-delà du 32767e profil"};
-    case FaultKind::UnknownTechnic:
-      return {unknownTechnic, found + " n'est la clé d'aucune technique"};
     case FaultKind::Separator:
+      if (isBlankLine(fault)) return {missingSeparator, "ligne vide : il n'en faut aucune, pas même à la fin"};
       return {missingSeparator, "« ; » manque à la fin du champ"};
     case FaultKind::Integer:
       return {notAnInteger, found + " n'est pas un nombre entier (-32768 à 32767)"};
@@ -79,14 +89,24 @@ Told toldOf(const Fault& fault) {
   }
 }
 
-// The number that is read from an element of a list that is more, or less, than that number.
-std::optional<double> looseValue(std::string_view bytes) {
-  const double value = numericPrefix(bytes);
+// The number that is read from an element of a list; of techniques, that is rounded. Nothing where there is none.
+std::optional<double> valueRead(const FieldText& element) {
+  const double value = numericPrefix(element.bytes);
   try {
-    if (strictNumber(bytes) == value) return std::nullopt;
+    return element.field.member == technicsOfArt ? toInt16(value) : value;
+  } catch (const Failure&) {
+    return std::nullopt;
+  }
+}
+
+// The same for one that is more, or less, than that number.
+std::optional<double> looseValue(const FieldText& element) {
+  const auto value = valueRead(element);
+  try {
+    if (value == strictNumber(element.bytes)) return std::nullopt;
   } catch (const Failure&) {
   }
-  return std::isfinite(value) ? std::optional(value) : std::nullopt;
+  return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 class FolderReading : public Reading {
@@ -97,34 +117,92 @@ class FolderReading : public Reading {
     loose_.reset();  // whatever stands there, a fault says more
     if (fault.kind <= FaultKind::NoLineEnd) folder_.unread.insert(fault.at.file);
     if (isConsequence(fault)) return;
-    DataPlace place{fault.at.file, fault.at.line, fault.column, fault.at.field.member};
-    if (fault.kind == FaultKind::NoAssermente) place.line = lineLikeAssermente();
-    const auto [kind, text] = toldOf(fault);
-    folder_.findings.add(kind, place, text);
-    if (!place.member.empty()) folder_.places.spoil(fault.kind == FaultKind::Separator);
+    const DataPlace place{fault.at.file, fault.at.line, fault.column, fault.at.field.member};
+    if (fault.kind == FaultKind::UnknownTechnic)
+      folder_.unknownTechnics.push_back({place, toInt16(numericPrefix(fault.at.bytes))});
+    else
+      find(fault, place);
     isAssermenteOutOfReach_ |= fault.kind == FaultKind::AssermenteOutOfReach;
+    if (place.member.empty()) return;
+    folder_.places.spoil(fault.kind == FaultKind::Separator);
+    if (fault.kind == FaultKind::Separator || isKey(fault.at.field)) noteDigits(fault.at);
   }
 
   void field(const FieldText& text) override {
     findLooseNumber();
     folder_.places.field(text);
-    const bool isListElement = text.field.member.starts_with("col");
-    if (const auto value = isListElement ? looseValue(text.bytes) : std::nullopt)
-      loose_ = {{text.file, text.line, text.column, text.field.member},
-                shown(text.bytes) + " est lu comme " + numberText(*value)};
+    if (text.position == 1) keysOfArt_.clear();
+    if (!isListElement(text.field)) return;
+    const DataPlace place{text.file, text.line, text.column, text.field.member};
+    if (const auto value = looseValue(text)) {
+      loose_ = {place, shown(text.bytes) + " est lu comme " + numberText(*value)};
+      noteDigits(text);
+    } else if (const auto key = valueRead(text); key && text.field.member == technicsOfArt) {
+      if (!keysOfArt_.insert(*key).second) folder_.repeatedTechnics.push_back({place, static_cast<std::int16_t>(*key)});
+    }
   }
 
   void record() override {
     findLooseNumber();
+    findMisread();
     folder_.places.record();
   }
 
  private:
+  static bool isListElement(const Field& field) { return field.member.starts_with("col"); }
+  static bool isKey(const Field& field) { return field.member == "iKey" || isListElement(field); }
+
+  // A text where a number or a word should be waits for the end of its line: it may be what a missing ";" did.
+  void find(const Fault& fault, DataPlace place) {
+    auto told = toldOf(fault);
+    if (isBlankLine(fault)) place.member = {};
+    if (fault.kind == FaultKind::NoAssermente) {
+      if (const auto like = profileLikeAssermente()) {
+        place.line = folder_.places.of(profilFormat.file, like, "sName").line;
+        told.text += " ; " + quoted(folder_.data.colProfil(like)->sName) + " n'est pas écrit ainsi";
+      }
+    } else if (fault.kind == FaultKind::Integer || fault.kind == FaultKind::Boolean) {
+      return misread_.push_back({place, told});
+    } else if (fault.kind == FaultKind::Separator && !misread_.empty() && !isListElement(fault.at.field)) {
+      place = misread_.front().first;
+      told.text = misread_.front().second.text + ", et « ; » manque dans cette ligne";
+      misread_.clear();
+    }
+    folder_.findings.add(told.kind, place, told.text);
+  }
+
+  void findMisread() {
+    for (const auto& [place, told] : misread_) folder_.findings.add(told.kind, place, told.text);
+    misread_.clear();
+  }
+
+  void noteDigits(const FieldText& text) {
+    std::string digits;
+    for (const char c : std::string(text.bytes) + ";") {
+      if (c >= '0' && c <= '9') {
+        digits += c;
+        continue;
+      }
+      if (!digits.empty() && digits.size() <= longestKey) folder_.doubtfulKeys[text.file].insert(std::stoi(digits));
+      digits.clear();
+    }
+  }
+
   // Of a finding that the user has already.
   bool isConsequence(const Fault& fault) const {
     if (fault.kind == FaultKind::UnknownTechnic)
       return !folder_.wasRead(martialTechnicFormat.file) || !folder_.places.hasRecords(martialTechnicFormat.file);
-    return fault.kind == FaultKind::NoAssermente && (isAssermenteOutOfReach_ || folder_.data.colProfil.Count() == 0);
+    return fault.kind == FaultKind::NoAssermente &&
+           (isAssermenteOutOfReach_ || folder_.data.colProfil.Count() == 0 || isAssermenteBroken());
+  }
+
+  bool isAssermenteBroken() const {
+    const auto& profiles = folder_.data.colProfil;
+    for (std::int32_t i = 1; i <= profiles.Count(); ++i)
+      if (!folder_.places.of(profilFormat.file, i, "sName").isSound &&
+          foldedName(profiles(i)->sName).starts_with(foldedName(clsProfil::swornName)))
+        return true;
+    return false;
   }
 
   void findLooseNumber() {
@@ -134,18 +212,19 @@ class FolderReading : public Reading {
     loose_.reset();
   }
 
-  // Of the first profile whose name is nearly "Assermenté", else the title line.
-  std::int32_t lineLikeAssermente() const {
+  // The position of the first profile whose name is nearly "Assermenté", 0 without one.
+  std::int32_t profileLikeAssermente() const {
     const auto& profiles = folder_.data.colProfil;
     for (std::int32_t i = 1; i <= profiles.Count(); ++i)
-      if (foldedName(profiles(i)->sName) == foldedName("Assermenté"))
-        return folder_.places.of(profilFormat.file, i, "sName").line;
-    return 1;
+      if (foldedName(profiles(i)->sName) == foldedName(clsProfil::swornName)) return i;
+    return 0;
   }
 
   DataFolder& folder_;
   // The field told last, of a list, where it is more or less than a number.
   std::optional<std::pair<DataPlace, std::string>> loose_;
+  std::vector<std::pair<DataPlace, Told>> misread_;  // in the line that is being read
+  std::set<double> keysOfArt_;                       // in the same line
   bool isAssermenteOutOfReach_ = false;
 };
 
@@ -189,6 +268,16 @@ void findRecordsInTitles(const std::map<std::string, std::string>& titles, Findi
     findings.add(titleIsRecord, {file}, "un enregistrement à la place de la ligne de titre n'est pas lu");
 }
 
+// A key that cannot be read is probably one beside those of its neighbours.
+template <class Records>
+void doubtNeighbours(DataFolder& folder, const Records& records, std::string_view file) {
+  for (std::int32_t i = 1; i <= records.Count(); ++i) {
+    if (folder.places.of(file, i, "iKey").isSound) continue;
+    if (i > 1) folder.doubtfulKeys[file].insert(records(i - 1)->iKey + 1);
+    if (i < records.Count()) folder.doubtfulKeys[file].insert(records(i + 1)->iKey - 1);
+  }
+}
+
 }  // namespace
 
 DataFolder readFolder(const std::string& path) {
@@ -197,6 +286,8 @@ DataFolder readFolder(const std::string& path) {
   FolderReading reading(folder);
   Nobody nobody;
   folder.technics = readData(folder.data, files, nobody, reading);
+  doubtNeighbours(folder, folder.data.colSkill, skillFormat.file);
+  doubtNeighbours(folder, folder.technics, martialTechnicFormat.file);
   findRecordsInTitles(files.titles, folder.findings);
   return folder;
 }

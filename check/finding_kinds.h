@@ -40,6 +40,7 @@ inline constexpr FindingKind literalReturn{"literal-return"};
 inline constexpr FindingKind missingKey{"missing-key"};
 inline constexpr FindingKind unknownSkill{"unknown-skill"};
 inline constexpr FindingKind unusedSkill{"unused-skill"};
+inline constexpr FindingKind repeatedTechnic{"repeated-technique"};
 inline constexpr FindingKind unusedTechnic{"unused-technique"};
 
 // What the rules do with it.
@@ -58,6 +59,7 @@ inline constexpr FindingKind emptyCategory{"empty-category"};
 inline constexpr FindingKind powerNumber{"power-number"};
 inline constexpr FindingKind unknownType{"unknown-type"};
 inline constexpr FindingKind restrictionWithoutEffect{"restriction-without-effect"};
+inline constexpr FindingKind negativeRestriction{"negative-restriction"};
 inline constexpr FindingKind restrictionNeverMet{"restriction-never-met"};
 
 // The sheet.

@@ -10,7 +10,8 @@ namespace orvane {
 // What was found so far.
 class Findings {
  public:
-  // The text of a field's finding is preceded by its member. What the reader found a fault in has no second finding.
+  // The text of a field's finding is preceded by the name of the field in the help. What the reader found a fault in
+  // has no second finding.
   void add(const FindingKind& kind, const DataPlace& place, std::string text);
   // By their places, each once.
   std::vector<Finding> sorted() const;

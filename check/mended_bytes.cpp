@@ -24,9 +24,27 @@ bool looksLikeUtf8(const std::u32string& characters) {
   return std::any_of(characters.begin(), characters.end(), [](char32_t c) { return c >= 0x80 && toWindows1252(c); });
 }
 
-std::string utf8FromUtf16(std::string_view bytes, bool bigEndian) {
+struct Utf16 {
+  bool hasMark;
+  bool bigEndian;
+};
+
+// Without a mark it is known by the zero bytes beside most of its characters, which no other text has.
+std::optional<Utf16> utf16Of(std::string_view bytes) {
+  if (bytes.starts_with("\xFF\xFE")) return Utf16{true, false};
+  if (bytes.starts_with("\xFE\xFF")) return Utf16{true, true};
+  std::size_t zeros[] = {0, 0};
+  for (std::size_t i = 0; i < bytes.size(); ++i)
+    if (bytes[i] == '\0') ++zeros[i % 2];
+  if (zeros[0] > bytes.size() / 4) return Utf16{false, true};
+  if (zeros[1] > bytes.size() / 4) return Utf16{false, false};
+  return std::nullopt;
+}
+
+std::string utf8FromUtf16(std::string_view bytes, const Utf16& kind) {
   std::string text;
-  for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
+  const bool bigEndian = kind.bigEndian;
+  for (std::size_t i = kind.hasMark ? 2 : 0; i + 1 < bytes.size(); i += 2) {
     const auto high = static_cast<unsigned char>(bytes[i + (bigEndian ? 0 : 1)]);
     const auto low = static_cast<unsigned char>(bytes[i + (bigEndian ? 1 : 0)]);
     appendUtf8(text, static_cast<char32_t>(high * 256 + low));
@@ -47,10 +65,10 @@ class Mender {
 
  private:
   void mendEncoding() {
-    const bool littleEndian = bytes_.starts_with("\xFF\xFE");
-    if (littleEndian || bytes_.starts_with("\xFE\xFF")) {
-      find(inUtf16, "fichier en UTF-16 : il doit être en Windows-1252 (ANSI)");
-      bytes_ = fromUtf8(utf8FromUtf16(bytes_, !littleEndian), true);
+    if (const auto utf16 = utf16Of(bytes_)) {
+      find(inUtf16, std::string("fichier en UTF-16") + (utf16->hasMark ? "" : " sans BOM") +
+                        " : il doit être en Windows-1252 (ANSI)");
+      bytes_ = fromUtf8(utf8FromUtf16(bytes_, *utf16), true);
     } else if (bytes_.starts_with(utf8Mark)) {
       find(inUtf8, "fichier en UTF-8 avec BOM : il doit être en Windows-1252 (ANSI)");
       bytes_ = fromUtf8(std::string_view(bytes_).substr(utf8Mark.size()), true);
@@ -106,6 +124,7 @@ class Mender {
   }
 
   void mendLineEnds() {
+    mendDoubledReturns();
     std::ptrdiff_t old = 0;
     for (std::size_t i = 0; i < bytes_.size(); ++i) old += isOldLineEnd(i);
     const bool throughout = old > std::count(bytes_.begin(), bytes_.end(), '\n');
@@ -114,15 +133,49 @@ class Mender {
     std::size_t start = 0;
     for (std::size_t i = 0; i < bytes_.size(); ++i) {
       if (isOldLineEnd(i)) {
+        const bool endsRecord = throughout || isRecordBehind(i);
         if (!throughout)
-          find(oldLineEnd, "fin de ligne ancienne (CR seul) au milieu de la ligne", line,
-               static_cast<std::int32_t>(i - start) + 1);
-        bytes_[i] = throughout ? '\n' : ' ';
-      } else if (bytes_[i] == '\n') {
+          find(oldLineEnd,
+               std::string("fin de ligne ancienne (CR seul)") +
+                   (endsRecord ? " : il faut LF ou CR LF" : " au milieu de la ligne"),
+               line, static_cast<std::int32_t>(i - start) + 1);
+        bytes_[i] = endsRecord ? '\n' : ' ';
+      }
+      if (bytes_[i] == '\n') {
         ++line;
         start = i + 1;
       }
     }
+  }
+
+  // CR CR LF, which comes of a conversion done twice.
+  void mendDoubledReturns() {
+    std::string kept;
+    kept.reserve(bytes_.size());
+    std::int32_t number = 0;
+    std::int32_t first = 0;
+    std::int32_t doubled = 0;
+    eachLine(bytes_, [&](std::string_view line) {
+      ++number;
+      const bool isDoubled = line.ends_with("\r\r\n");
+      if (isDoubled && doubled++ == 0) first = number;
+      kept.append(line.substr(0, line.size() - (isDoubled ? 2 : 0)));
+      if (isDoubled) kept += '\n';
+    });
+    if (doubled > 0)
+      find(oldLineEnd,
+           "CR CR LF au bout " + (doubled == 1 ? "de la ligne" : "de " + std::to_string(doubled) + " lignes") +
+               " : il faut LF ou CR LF",
+           first);
+    bytes_ = std::move(kept);
+  }
+
+  // Whether up to the end of the line there are as many fields as the title has, or nothing.
+  bool isRecordBehind(std::size_t i) const {
+    const auto title = std::string_view(bytes_).substr(0, bytes_.find_first_of("\r\n"));
+    const auto line = std::string_view(bytes_).substr(i + 1, bytes_.find_first_of("\r\n", i + 1) - i - 1);
+    const auto fields = std::count(title.begin(), title.end(), ';');
+    return line.empty() || (fields > 0 && std::count(line.begin(), line.end(), ';') >= fields);
   }
 
   bool isOldLineEnd(std::size_t i) const {

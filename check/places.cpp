@@ -1,6 +1,16 @@
 #include "check/places.h"
 
+#include "check/names.h"
+
 namespace orvane {
+
+std::string alsoCited(const std::vector<DataPlace>& places) {
+  std::vector<std::string> lines;
+  for (std::size_t i = 1; i < places.size(); ++i)
+    if (places[i].line != places[i - 1].line) lines.push_back(std::to_string(places[i].line));
+  if (lines.empty()) return {};
+  return (lines.size() == 1 ? ", citée aussi à la ligne " : ", citée aussi aux lignes ") + listed(lines);
+}
 
 void Places::field(const FieldText& text) {
   if (text.file != file_) now_ = &files_[file_ = text.file];

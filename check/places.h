@@ -16,6 +16,9 @@ struct DataPlace {
   bool isSound = true;           // false: the reader found a fault in it, and its value means nothing
 };
 
+// ", citée aussi à la ligne 3" for the places behind the first one, empty without any.
+std::string alsoCited(const std::vector<DataPlace>& places);
+
 // Where the fields of all records stand.
 class Places {
  public:

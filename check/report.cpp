@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "surface/text.h"
+
 namespace orvane {
 namespace {
 
@@ -17,6 +19,15 @@ constexpr std::array<SeverityWords, 3> severities{
     {{"erreur", "error"}, {"avertissement", "warning"}, {"remarque", "note"}}};
 
 const SeverityWords& wordsOf(Severity severity) { return severities[static_cast<std::size_t>(severity)]; }
+
+// The name of a folder may be no text: what is no ASCII in it is then replaced.
+std::string textOf(const std::string& path) {
+  if (charactersOf(path)) return path;
+  std::string text;
+  for (const char c : path)
+    appendUtf8(text, static_cast<unsigned char>(c) < 0x80 ? static_cast<char32_t>(c) : U'\uFFFD');
+  return text;
+}
 
 std::string json(std::string_view text) {
   std::string quoted = "\"";
@@ -33,22 +44,22 @@ std::string json(std::string_view text) {
   return quoted + '"';
 }
 
-std::string pathOf(const Finding& finding, const std::string& folder) {
-  return folder == "." ? finding.file : folder + (folder.ends_with('/') ? "" : "/") + finding.file;
-}
-
 }  // namespace
+
+std::string pathOf(const std::string& folder, std::string_view file) {
+  return (folder == "." ? "" : folder + (folder.ends_with('/') ? "" : "/")).append(file);
+}
 
 void report(const std::vector<Finding>& findings, const std::string& folder, ReportFormat format, std::ostream& out) {
   const bool isJson = format == ReportFormat::Json;
   const char* separator = "[\n";
   for (const auto& finding : findings) {
-    const auto path = pathOf(finding, folder);
+    const auto path = pathOf(folder, finding.file);
     const auto& severity = wordsOf(finding.severity);
     if (isJson)
-      out << std::exchange(separator, ",\n") << R"(  {"file": )" << json(path) << R"(, "line": )" << finding.line
-          << R"(, "column": )" << finding.column << R"(, "severity": ")" << severity.code << R"(", "code": ")"
-          << finding.code << R"(", "text": )" << json(finding.text) << '}';
+      out << std::exchange(separator, ",\n") << R"(  {"file": )" << json(textOf(path)) << R"(, "line": )"
+          << finding.line << R"(, "column": )" << finding.column << R"(, "severity": ")" << severity.code
+          << R"(", "code": ")" << finding.code << R"(", "text": )" << json(finding.text) << '}';
     else
       out << path << ':' << finding.line << ':' << finding.column << ": " << severity.french << ": " << finding.text
           << '\n';

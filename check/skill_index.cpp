@@ -2,10 +2,14 @@
 
 #include <limits>
 
+#include "data/record_formats.h"
+
 namespace orvane {
 
-SkillIndex::SkillIndex(const ReferenceData& data) {
-  for (std::int32_t i = 1; i <= data.colSkill.Count(); ++i) positions_[data.colSkill(i)->iKey].push_back(i);
+SkillIndex::SkillIndex(const DataFolder& folder) {
+  const auto& skills = folder.data.colSkill;
+  for (std::int32_t i = 1; i <= skills.Count(); ++i)
+    if (folder.places.of(skillFormat.file, i, "iKey").isSound) positions_[skills(i)->iKey].push_back(i);
 }
 
 const std::vector<std::int32_t>& SkillIndex::positionsOf(double key) const {

@@ -3,14 +3,14 @@
 #include <unordered_map>
 #include <vector>
 
-#include "data/reference_data.h"
+#include "check/data_folder.h"
 
 namespace orvane {
 
-// Finds skills by the numbers of a profile's list.
+// Finds skills by the numbers of a profile's list; none whose key could not be read.
 class SkillIndex {
  public:
-  explicit SkillIndex(const ReferenceData& data);
+  explicit SkillIndex(const DataFolder& folder);
 
   // The positions of all skills with the key.
   const std::vector<std::int32_t>& positionsOf(double key) const;

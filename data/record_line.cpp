@@ -1,6 +1,5 @@
 #include "data/record_line.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "data/windows_1252.h"
@@ -71,9 +70,12 @@ std::string_view RecordLine::take(const Field& field, std::size_t length) {
 }
 
 std::string RecordLine::decoded(std::string_view bytes) {
-  const auto wrong = std::find_if_not(bytes.begin(), bytes.end(), inWindows1252);
-  if (wrong != bytes.end())
-    report({FaultKind::Character, last_, last_.column + static_cast<std::int32_t>(wrong - bytes.begin())});
+  if (isFaulty()) return fromWindows1252(bytes);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (inWindows1252(bytes[i])) continue;
+    faultyField_ = last_.position;
+    reading_.fault({FaultKind::Character, last_, last_.column + static_cast<std::int32_t>(i)});
+  }
   return fromWindows1252(bytes);
 }
 
@@ -89,7 +91,7 @@ Value RecordLine::converted(std::string_view bytes, FaultKind expected, Value (*
 }
 
 void RecordLine::report(const Fault& fault) {
-  if (brokenAt_ != 0 || faultyField_ == last_.position) return;
+  if (isFaulty()) return;
   faultyField_ = last_.position;
   reading_.fault(fault);
 }

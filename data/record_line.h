@@ -8,8 +8,8 @@ namespace orvane {
 
 // One line of a data file, cut into its fields from the left. Each reading takes the next field.
 // Text that does not suit, a byte that is no character and, but for the ...ToEnd, a field without a ";" behind it are
-// faults, the first one of each field alone, and none behind a missing ";". Where the reading goes on behind a fault,
-// the value is 0, false or as much of the text as there is.
+// faults, all such bytes of a field or else its first fault alone, and none behind a missing ";". Where the reading
+// goes on behind a fault, the value is 0, false or as much of the text as there is.
 class RecordLine {
  public:
   // The number counts the title line as 1. The bytes are Windows-1252 and outlive the RecordLine, as does the name.
@@ -30,8 +30,8 @@ class RecordLine {
   std::int16_t key(const Field& field);
 
   bool atEnd() const { return rest_.empty(); }
-  // False where not even the first field has a ";" behind it: reading may go on, but this line is no record.
-  bool isRecord() const { return brokenAt_ != 1; }
+  // False for a blank line, which is a fault: reading may go on, but there is no record.
+  bool isRecord() const { return line_.find_first_not_of(' ') != std::string_view::npos; }
   // A fault in the field last taken, or in the line before the first one.
   void fault(FaultKind kind, std::string_view text = {}) { report({kind, last_, last_.column, text}); }
 
@@ -42,6 +42,7 @@ class RecordLine {
   std::string decoded(std::string_view bytes);
   template <class Value>
   Value converted(std::string_view bytes, FaultKind expected, Value (*convert)(std::string_view));
+  bool isFaulty() const { return brokenAt_ != 0 || faultyField_ == last_.position; }
   void report(const Fault& fault);
 
   Reading& reading_;

@@ -82,6 +82,9 @@ TEST_F(Check, TheExitStatusIsTheWorstOfAll) {
   EXPECT_EQ(append(""), 0) << text;
   EXPECT_EQ(append("Pareille;1\npareille;1\n"), 1) << text;
   EXPECT_EQ(append("Pareille;x\n"), 2) << text;
+  const std::string strange = folder / "dos\xE9";
+  fs::copy(folder, strange);
+  EXPECT_TRUE(check({strange, "--format", "json"}).find("dos\uFFFD/ethnie.txt") != std::string::npos) << text;
   const std::string none = folder / "none";
   check({none});
   EXPECT_EQ(status, 3);
@@ -90,13 +93,15 @@ TEST_F(Check, TheExitStatusIsTheWorstOfAll) {
 
 TEST_F(Check, TheCommandLineIsExplained) {
   const std::string usage = "usage : orvane-check [--format text|json] [--sheet] [DOSSIER]\n";
-  EXPECT_TRUE(check({"--help", "forty"}).starts_with(usage));
-  EXPECT_EQ(status, 0);
+  for (const auto* const help : {"--help", "-h"}) {
+    EXPECT_TRUE(check({help, "forty"}).starts_with(usage));
+    EXPECT_EQ(status, 0);
+  }
   const std::pair<std::vector<std::string>, std::string> cases[] = {
       {{"--faults"}, "option inconnue : --faults"},
       {{"--format"}, "--format sans valeur"},
       {{"--format=xml"}, "format inconnu : xml"},
-      {{"forty", "others"}, "plus d'un dossier : others"},
+      {{"forty", "--", "-h"}, "plus d'un dossier : -h"},
   };
   for (const auto& [arguments, message] : cases) {
     EXPECT_EQ(check(arguments), "");
