@@ -1,7 +1,7 @@
 # Sourced by ./run, ./test and .ci/run: install_packages installs what is missing of the named Debian packages.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libicu-dev libfontconfig-dev fonts-liberation)
-test_packages=(libgtest-dev)
+test_packages=(libgtest-dev poppler-utils)
 
 install_packages() {
   local missing=() package
