@@ -61,7 +61,8 @@ class ContentsCheck {
   // are gone by now, and were longer.
   void checkReturns(std::string_view text, bool mayHaveReturns, const DataPlace& place) {
     constexpr std::string_view word = "return";
-    const std::string lower = text.find_first_of("[]") == std::string_view::npos ? std::string() : lowerCase(text);
+    const bool hasBracket = text.find('[') != std::string_view::npos || text.find(']') != std::string_view::npos;
+    const std::string lower = hasBracket ? lowerCase(text) : std::string();
     for (auto at = lower.find(word); at != std::string::npos; at = lower.find(word, at + 1)) {
       const auto before = lower.find_last_not_of(' ', at - 1);
       const auto behind = lower.find_first_not_of(' ', at + word.size());

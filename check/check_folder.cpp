@@ -9,10 +9,10 @@ std::vector<Finding> checkFolder(const std::string& path, Pictures& pictures, bo
   checkContents(folder);
   const auto offer = offerOf(folder.data, pictures);
   checkSkills(folder, offer);
-  const auto profiles = checkProfiles(folder, offer, pictures);
+  const auto applicable = checkProfiles(folder, offer, pictures);
   checkPowers(folder, pictures);
-  checkMartialArts(folder);
-  if (withSheets) checkSheets(folder, profiles, pictures);
+  checkMartialArts(folder, applicable.martialPoints);
+  if (withSheets) checkSheets(folder, applicable.profiles, pictures);
   return folder.findings.sorted();
 }
 

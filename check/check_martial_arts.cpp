@@ -17,9 +17,7 @@ struct Effect {
   bool letsDefend = false;
 };
 
-Effect effectOf(std::int16_t RO, std::int16_t RD) {
-  const auto most = static_cast<std::int16_t>(
-      levelLimits({.iKey = martialSkillKey, .sName = {}, .iStart = 0, .sDescro = {}}, true).highest);
+Effect effectOf(std::int16_t RO, std::int16_t RD, std::int16_t most) {
   Effect effect;
   // By defensive points: whether they can be reached with the offensive points of the row.
   std::vector<bool> reached(static_cast<std::size_t>(most) + 1);
@@ -39,7 +37,7 @@ Effect effectOf(std::int16_t RO, std::int16_t RD) {
 
 class MartialCheck {
  public:
-  explicit MartialCheck(DataFolder& folder) : folder_(folder) {}
+  MartialCheck(DataFolder& folder, std::int16_t mostPoints) : folder_(folder), mostPoints_(mostPoints) {}
 
   void checkTypes() {
     for (std::int32_t i = 1; i <= folder_.technics.Count(); ++i) {
@@ -53,32 +51,50 @@ class MartialCheck {
   void checkRestrictions() {
     for (std::int32_t i = 1; i <= folder_.data.colMartialArt.Count(); ++i) {
       const auto& art = *folder_.data.colMartialArt(i);
-      if (art.iRestrictO != 0 && art.iRestrictD != 0) checkRestriction(i, art);
+      const bool hasRule = art.iRestrictO != 0 && art.iRestrictD != 0;
+      if (hasRule && findEffect(i, art)) continue;
+      if (art.iRestrictO < 0)
+        findNegative(i, "iRestrictO", art.iRestrictO);
+      else if (art.iRestrictD < 0)
+        findNegative(i, "iRestrictD", art.iRestrictD);
     }
   }
 
  private:
-  void checkRestriction(std::int32_t position, const clsMartialArt& art) {
+  // Whether the rule does something that no rule should.
+  bool findEffect(std::int32_t position, const clsMartialArt& art) {
     const auto [known, isNew] = effects_.try_emplace({art.iRestrictO, art.iRestrictD});
-    if (isNew) known->second = effectOf(art.iRestrictO, art.iRestrictD);
+    if (isNew) known->second = effectOf(art.iRestrictO, art.iRestrictD, mostPoints_);
     const auto& [refuses, letsAttack, letsDefend] = known->second;
     const std::string rule = "la règle " + std::to_string(art.iRestrictO) + " ; " + std::to_string(art.iRestrictD);
+    const std::string points = ", avec " + std::to_string(mostPoints_) + " points au plus";
     const auto place = folder_.places.of(martialArtFormat.file, position, "iRestrictO");
     if (!letsAttack || !letsDefend)
-      folder_.findings.add(restrictionNeverMet, place,
-                           rule + " ne laisse jamais placer de point " + (letsAttack ? "défensif" : "offensif"));
+      folder_.findings.add(
+          restrictionNeverMet, place,
+          rule + " ne laisse jamais placer de point " + (letsAttack ? "défensif" : "offensif") + points);
     else if (!refuses)
-      folder_.findings.add(restrictionWithoutEffect, place, rule + " n'interdit jamais rien");
+      folder_.findings.add(restrictionWithoutEffect, place, rule + " n'interdit jamais rien" + points);
+    return !letsAttack || !letsDefend || !refuses;
+  }
+
+  void findNegative(std::int32_t position, std::string_view member, std::int16_t term) {
+    folder_.findings.add(negativeRestriction, folder_.places.of(martialArtFormat.file, position, member),
+                         std::to_string(term) + " est négatif, et un groupe est d'un point ou plus");
   }
 
   DataFolder& folder_;
+  std::int16_t mostPoints_;  // of a character
   std::map<std::pair<std::int16_t, std::int16_t>, Effect> effects_;
 };
 
 }  // namespace
 
-void checkMartialArts(DataFolder& folder) {
-  MartialCheck check(folder);
+void checkMartialArts(DataFolder& folder, double martialPoints) {
+  // Where no one has any, something else is wrong.
+  if (martialPoints <= 0)
+    martialPoints = levelLimits({.iKey = martialSkillKey, .sName = {}, .iStart = 0, .sDescro = {}}, true).highest;
+  MartialCheck check(folder, static_cast<std::int16_t>(martialPoints));
   check.checkTypes();
   check.checkRestrictions();
 }

@@ -1,11 +1,14 @@
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <set>
 
 #include "check/checks.h"
 #include "check/names.h"
 #include "check/skill_index.h"
 #include "check/trial.h"
 #include "data/record_formats.h"
+#include "editor/numbers_in_controls.h"
 #include "editor/pools.h"
 #include "editor/skill_rules.h"
 #include "surface/numbers.h"
@@ -20,6 +23,14 @@ struct Element {
   double key;
 };
 
+// An element that stands in the list of "Assermenté", too.
+struct Clash {
+  FindingKind kind;
+  Element own;
+  std::string what;
+  std::string consequence;
+};
+
 class ProfileCheck {
  public:
   ProfileCheck(DataFolder& folder, const Offer& offer, Pictures& pictures)
@@ -30,14 +41,14 @@ class ProfileCheck {
     placedFor_.resize(nameless_.size() + 1);
   }
 
-  std::vector<std::int32_t> run() {
+  Applicable run() {
     if (offer_.profiles.empty())
       folder_.findings.add(noProfile, {profilFormat.file}, "aucun profil à choisir à côté d'« Assermenté »");
-    std::vector<std::int32_t> applicable;
     for (const auto profile : offer_.profiles)
       if ((!data_.colProfil(profile)->bAsserm || data_.iProfilAsserm > 0) && tryProfile(profile))
-        applicable.push_back(profile);
-    return applicable;
+        applicable_.profiles.push_back(profile);
+    findClashes();
+    return applicable_;
   }
 
  private:
@@ -53,14 +64,17 @@ class ProfileCheck {
       trial_.emplace(std::move(data), pictures_);
     auto& vehicle = trial_->window().cmbVehicle;
     int picked = vehicle.ListIndex();  // -1: the profile has none
-    if (!judge(profile, picked)) return false;
-    if (picked < 0) return true;
-    while (++picked < vehicle.ListCount()) {
+    const bool usesVehicle = picked >= 0;
+    costs_.clear();
+    bool isApplied = judge(profile, picked);
+    while (trial_->isOpen() && usesVehicle && ++picked < vehicle.ListCount()) {
       trial_->act([&] { vehicle.setListIndex(picked); });
-      if (!judge(profile, picked)) return false;
+      isApplied = judge(profile, picked) && isApplied;
     }
-    return std::all_of(offer_.vehicles.begin(), offer_.vehicles.end(),
-                       [this](const auto& known) { return known.skill <= data_.colSkill.Count(); });
+    if (!costs_.empty()) findUnpaid(profile);
+    return isApplied &&
+           (!usesVehicle || std::all_of(offer_.vehicles.begin(), offer_.vehicles.end(),
+                                        [this](const auto& known) { return known.skill <= data_.colSkill.Count(); }));
   }
 
   // The profile and no skills but its own and, behind a code 101, those of the vehicles, which keep their positions:
@@ -105,7 +119,7 @@ class ProfileCheck {
     for (const auto& box : trial_->boxes()) {
       if (box.style != BoxStyle::Exclamation) {
         if (trial_->isOpen())
-          findUnpaid(profile, vehicle);
+          noteCost(vehicle);
         else
           findRepeatedCode(profile);
         return false;
@@ -114,52 +128,102 @@ class ProfileCheck {
       again = std::exchange(row, box.skillRows) == box.skillRows ? again + 1 : 1;
       findRedundant(profile, rows_[static_cast<std::size_t>(row)], again, vehicle);
     }
+    noteMartialPoints(vehicle);
     return true;
   }
 
-  void findUnpaid(std::int32_t profile, const Vehicle* vehicle) {
+  // Who gives up the mutant power can buy levels of the martial-arts skill, a point each, with all that is left.
+  void noteMartialPoints(const Vehicle* vehicle) {
+    const auto& skills = index_.positionsOf(martialSkillKey);
+    if (skills.empty()) return;
+    const auto [lowest, highest] =
+        levelLimits(*data_.colSkill(skills.front()), !elementsFor(martialSkillKey, vehicle).empty());
+    const double left = number(trial_->window().txtSkillRest) + pointsWithoutPower;
+    const double points = number(trial_->window().txtMartialArtRest) + std::min(std::max(highest - lowest, 0.0), left);
+    applicable_.martialPoints = std::max(applicable_.martialPoints, points);
+  }
+
+  // What the pool cannot pay.
+  void noteCost(const Vehicle* vehicle) {
     double cost = 0;
     for (const auto position : rows_) {
       const auto& skill = *data_.colSkill(position);
       if (elementsFor(skill.iKey, vehicle).empty()) continue;
       cost += profileSkillCost(skill.iStart) + (skill.iKey == martialSkillKey ? martialSkillExtraCost : 0);
     }
+    costs_.push_back(numberText(cost) + (costs_.empty() ? " points de compétence" : "") + withVehicle(vehicle));
+  }
+
+  void findUnpaid(std::int32_t profile) {
     folder_.findings.add(poolTooSmall, folder_.places.of(profilFormat.file, profile, "sName"),
-                         quoted(data_.colProfil(profile)->sName) + " coûte " + numberText(cost) +
-                             " points de compétence" + withVehicle(vehicle) + ", et il n'y en a que " +
-                             numberText(skillPoolBase) + " (" + numberText(skillPoolBase + pointsWithoutPower) +
-                             " sans pouvoir mutant)");
+                         quoted(data_.colProfil(profile)->sName) + " coûte " + listed(costs_) +
+                             ", et il n'y en a que " + numberText(skillPoolBase) + " (" +
+                             numberText(skillPoolBase + pointsWithoutPower) + " sans pouvoir mutant)");
   }
 
   void findRepeatedCode(std::int32_t profile) {
     const auto codes = elementsFor(vehicleCode, nullptr);
-    folder_.findings.add(
-        repeatedVehicleCode, placeOf(repetition(profile, codes, 1)),
-        "code 101 plusieurs fois" + withAssermente(profile, codes) + " : la fenêtre du personnage se ferme");
+    const std::string consequence = " : la fenêtre du personnage se ferme";
+    if (isClash(profile, codes, 1))
+      noteClash(repeatedVehicleCode, profile, codes, "code 101 plusieurs fois", consequence);
+    else
+      folder_.findings.add(repeatedVehicleCode, placeOf(codes[1]), "code 101 plusieurs fois" + consequence);
   }
 
   void findRedundant(std::int32_t profile, std::int32_t skill, std::size_t again, const Vehicle* vehicle) {
     const auto named = elementsFor(data_.colSkill(skill)->iKey, vehicle);
     const bool byVehicle =
         std::any_of(named.begin(), named.end(), [](const auto& element) { return element.key == vehicleCode; });
-    folder_.findings.add(redundantSkill, placeOf(repetition(profile, named, again)),
-                         quoted(data_.colSkill(skill)->sName) + " est redondante" + withAssermente(profile, named) +
-                             withVehicle(byVehicle ? vehicle : nullptr));
+    const std::string name = quoted(data_.colSkill(skill)->sName);
+    const std::string redundant = name + " est redondante";
+    const std::string with = withVehicle(byVehicle ? vehicle : nullptr);
+    if (isClash(profile, named, again))
+      noteClash(redundantSkill, profile, named, redundant, with);
+    else if (byVehicle)
+      folder_.findings.add(redundantSkill, placeOf(named[again]), redundant + with);
+    else
+      folder_.findings.add(
+          redundantSkill, placeOf(named[again]),
+          name + " est citée " + (again == 1 ? "deux" : std::to_string(again + 1)) + " fois dans ce profil");
   }
 
-  // Where a repetition is told: in the list of the profile itself, as far as it has a part in it.
-  static Element repetition(std::int32_t profile, const std::vector<Element>& named, std::size_t again) {
-    const auto own = static_cast<std::size_t>(
-        std::count_if(named.begin(), named.end(), [&](const auto& element) { return element.profile == profile; }));
-    return named[own == 0 ? again : std::min(again, own - 1)];
+  // Whether a profile repeats by this element what it has, or "Assermenté" does.
+  static bool isClash(std::int32_t profile, const std::vector<Element>& named, std::size_t again) {
+    return named.front().profile == profile && named[again].profile != profile;
+  }
+
+  // What a profile and "Assermenté" both name.
+  void noteClash(const FindingKind& kind, std::int32_t profile, const std::vector<Element>& named, std::string what,
+                 std::string consequence) {
+    const auto isOwn = [&](const auto& element) { return element.profile == profile; };
+    const auto own = std::find_if(named.rbegin(), named.rend(), isOwn);
+    clashes_[named.back().nth].push_back({kind, *own, std::move(what), std::move(consequence)});
+  }
+
+  // Where most of the profiles that "Assermenté" serves clash with it, it is the one that is wrong.
+  void findClashes() {
+    const auto sworn = std::count_if(offer_.profiles.begin(), offer_.profiles.end(),
+                                     [this](auto profile) { return data_.colProfil(profile)->bAsserm; });
+    for (const auto& [nth, clashes] : clashes_) {
+      std::set<std::int32_t> profiles;
+      for (const auto& clash : clashes) profiles.insert(clash.own.profile);
+      if (profiles.size() > 1 && 2 * static_cast<std::ptrdiff_t>(profiles.size()) > sworn)
+        findInAssermente(nth, clashes.front(), profiles);
+      else
+        for (const auto& [kind, own, what, consequence] : clashes)
+          folder_.findings.add(kind, placeOf(own), what + " avec « Assermenté »" + consequence);
+    }
+  }
+
+  void findInAssermente(std::int32_t nth, const Clash& clash, const std::set<std::int32_t>& profiles) {
+    std::vector<std::string> names;
+    for (const auto profile : profiles) names.push_back(quoted(data_.colProfil(profile)->sName));
+    folder_.findings.add(clash.kind, placeOf({data_.iProfilAsserm, nth, 0}),
+                         clash.what + " avec les profils " + listed(names) + clash.consequence);
   }
 
   static std::string withVehicle(const Vehicle* vehicle) {
     return vehicle ? " avec le véhicule " + quoted(vehicle->name) : std::string();
-  }
-
-  static std::string withAssermente(std::int32_t profile, const std::vector<Element>& named) {
-    return named.front().profile == profile && named.back().profile != profile ? " avec « Assermenté »" : "";
   }
 
   std::vector<Element> elements(std::int32_t profile) const {
@@ -197,14 +261,17 @@ class ProfileCheck {
   std::vector<std::shared_ptr<const clsSkill>> nameless_;
   std::vector<std::int32_t> placedFor_;  // by the position of a skill, the profile under trial that has it
 
+  Applicable applicable_;
+  std::map<std::int32_t, std::vector<Clash>> clashes_;  // by the element of "Assermenté"
   std::optional<Trial> trial_;
   std::vector<Element> elements_;   // of the profile under trial, then of the one that it brings in
+  std::vector<std::string> costs_;  // of the profile under trial, by vehicle, where the pool cannot pay them
   std::vector<std::int32_t> rows_;  // the positions of the skills that it lists
 };
 
 }  // namespace
 
-std::vector<std::int32_t> checkProfiles(DataFolder& folder, const Offer& offer, Pictures& pictures) {
+Applicable checkProfiles(DataFolder& folder, const Offer& offer, Pictures& pictures) {
   if (folder.data.colProfil.Count() == 0 || folder.data.colSkill.Count() == 0) return {};
   return ProfileCheck(folder, offer, pictures).run();
 }

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <set>
 #include <tuple>
-#include <unordered_map>
 
 #include "check/checks.h"
 #include "check/names.h"
@@ -12,6 +11,7 @@
 #include "editor/skill_row.h"
 #include "editor/skill_rules.h"
 #include "sheet/composition.h"
+#include "sheet/composition_sides.h"
 #include "sheet/drawn_power.h"
 #include "surface/failure.h"
 #include "surface/user.h"
@@ -27,12 +27,11 @@ class SheetCheck {
         trial_(dataOf(folder, profiles), pictures),
         user_(trial_.globals().desktop) {
     trial_.act([&] { window().txtPerso.setText("Personnage"); });
-    for (std::int32_t i = 1; i <= folder.data.colSkill.Count(); ++i)
-      skillByName_.try_emplace(folder.data.colSkill(i)->sName, i);
   }
 
   void run() {
     checkProfiles();
+    checkSkillNames();
     checkEntries(window().cmbEthnie, &frmFeuille::shpEthnie, ethnieFormat.file);
     checkEntries(window().cmbDistrict, &frmFeuille::shpDistrict, districtFormat.file);
     if (pickProfile([this] { return window().cmbGrade.Enabled(); }))
@@ -73,16 +72,80 @@ class SheetCheck {
   }
 
   void checkProfiles() {
-    auto& vehicles = window().cmbVehicle;
     for (std::size_t i = 0; i < profiles_.size(); ++i) {
       pick(window().cmbProfil, static_cast<int>(i));
-      checkBox(composed(), &frmFeuille::shpProfil, folder_.places.of(profilFormat.file, profiles_[i], "sName"));
-      checkSkills(*trial_.globals().frmCurrentFeuille);
-      for (int vehicle = 1; vehicles.Enabled() && vehicle < vehicles.ListCount(); ++vehicle) {
-        pick(vehicles, vehicle);
-        checkSkills(composed());
+      buyNamedSkills();
+      const auto names = namesOnSheet();
+      for (const auto& row : window().lvwSkillGen.rows()) row->setText("…");
+      auto& sheet = composed();
+      checkBox(sheet, &frmFeuille::shpProfil, folder_.places.of(profilFormat.file, profiles_[i], "sName"));
+      checkColumns(sheet, names, *folder_.data.colProfil(profiles_[i]));
+    }
+  }
+
+  // They are on the sheet of whoever buys a level of them.
+  void buyNamedSkills() {
+    user_.pick(window().SSTabPerso, frmPersonnage::Competences);
+    for (const auto& row : window().lvwSkillGen.rows()) {
+      if (!isNamedByUser(number(*row, SkillRow::Key))) continue;
+      user_.row(window().lvwSkillGen, row->Index());
+      std::string before;
+      while (window().prcSkillNotOnSheet(*row) && before != row->SubItems(SkillRow::Level)) {
+        before = row->SubItems(SkillRow::Level);
+        user_.click(window().cmdSkillGenModif(1));
       }
     }
+  }
+
+  std::vector<std::string> namesOnSheet() {
+    std::vector<std::string> names;
+    for (const auto& row : window().lvwSkillGen.rows())
+      if (!window().prcSkillNotOnSheet(*row)) names.push_back(row->Text());
+    return names;
+  }
+
+  // Whether the skills fit, each on a line of its own.
+  void checkColumns(frmFeuille& sheet, const std::vector<std::string>& names, const clsProfil& profile) {
+    std::size_t next = 0;
+    for (int column = 0; column < sheet.shpNames.size(); ++column) {
+      const PrintedBox box(sheet, sheet.shpNames(column));
+      next += box.lines.size();
+      if (!box.lost.empty() && !std::exchange(foundTooMany_, true))
+        folder_.findings.add(tooManySkills, {skillFormat.file},
+                             std::to_string(names.size()) + " compétences à imprimer avec le profil " +
+                                 quoted(profile.sName) +
+                                 " et les compétences à nommer ne tiennent pas sur la feuille :" + " la colonne " +
+                                 std::to_string(column + 1) + " est coupée avant " + quoted(names[next]));
+      next += wordsOf(box.lost).size();
+    }
+  }
+
+  // Each alone, for what is wrong with one of them moves or hides those behind it.
+  void checkSkillNames() {
+    auto& sheet = composed();
+    setFontSizes(sheet, workingSize);
+    std::set<std::string> measured;
+    for (std::int32_t i = 1; i <= folder_.data.colSkill.Count(); ++i) {
+      const auto& skill = *folder_.data.colSkill(i);
+      const bool isPrinted = skill.iKey != vehicleCode && skill.iKey != martialSkillKey;
+      if (!isPrinted || !measured.insert(skill.sName).second) continue;
+      sheet.log = {};
+      printSkillNames(sheet, 0, skill.sName);
+      checkSkillName(PrintedBox(sheet, sheet.shpNames(0)), skill, folder_.places.of(skillFormat.file, i, "sName"));
+    }
+  }
+
+  void checkSkillName(const PrintedBox& box, const clsSkill& skill, const DataPlace& place) {
+    const std::string renamed = isNamedByUser(skill.iKey) ? " ; le joueur doit la renommer" : "";
+    if (box.wordTooWide)
+      folder_.findings.add(wordTooWide, place,
+                           quoted(box.firstLostWord()) + " est plus large que sa colonne sur la feuille," +
+                               " où manquent cette compétence et toutes celles derrière" + renamed);
+    else if (box.lines.size() > 1)
+      folder_.findings.add(wrappedOnSheet, place,
+                           quoted(skill.sName) + " prend " +
+                               (box.lines.size() == 2 ? "deux" : std::to_string(box.lines.size())) +
+                               " lignes sur la feuille, et les niveaux derrière ne sont plus en face" + renamed);
   }
 
   // Picks the first profile that makes something so.
@@ -148,8 +211,28 @@ class SheetCheck {
       pick(window().cmbProfil, profile);
       buyMartialPoints();
       takeAllTechnics(art);
-      checkBox(composed(), &frmFeuille::shpMartialArt, folder_.places.of(martialArtFormat.file, art, "sName"));
+      while (findWideTechnic(art)) {
+      }
+      checkBox(composed(), &frmFeuille::shpMartialArt, folder_.places.of(martialArtFormat.file, art, "sName"),
+               ", avec toutes ses techniques");
     }
+  }
+
+  // Finds a technique that is too wide for the box of its art and gives it another name, for it hides those behind it.
+  bool findWideTechnic(std::int32_t art) {
+    auto& sheet = composed();
+    const PrintedBox box(sheet, sheet.shpMartialArt);
+    if (!box.wordTooWide) return false;
+    for (auto& technic : window().colPersoArt(art)->colMartialTechnic) {
+      const auto words = wordsOf(technic->sName);
+      if (!technic->bSelected || std::count(words.begin(), words.end(), box.firstLostWord()) == 0) continue;
+      for (std::int32_t i = 1; i <= folder_.technics.Count(); ++i)
+        if (folder_.technics(i)->sName == technic->sName)
+          findWide(box, folder_.places.of(martialTechnicFormat.file, i, "sName"));
+      technic->sName = "…";
+      return true;
+    }
+    return false;
   }
 
   void buyMartialPoints() {
@@ -180,70 +263,28 @@ class SheetCheck {
     } while (pool.Text() != before);
   }
 
-  void checkBox(frmFeuille& sheet, Shape frmFeuille::*shape, const DataPlace& place) {
+  void findWide(const PrintedBox& box, const DataPlace& place) {
+    folder_.findings.add(wordTooWide, place,
+                         quoted(box.firstLostWord()) +
+                             " est plus large que sa case sur la feuille et n'y est pas imprimé, ni ce qui suit");
+  }
+
+  void checkBox(frmFeuille& sheet, Shape frmFeuille::*shape, const DataPlace& place, const std::string& with = {}) {
     const PrintedBox box(sheet, sheet.*shape);
     if (box.lost.empty() || !cut_.insert({place.file, place.line, place.column}).second) return;
     const auto last = box.lastWord();
     if (box.wordTooWide)
-      folder_.findings.add(wordTooWide, place,
-                           quoted(box.firstLostWord()) +
-                               " est plus large que sa case sur la feuille et n'y est pas imprimé, ni ce qui suit");
+      findWide(box, place);
     else
       folder_.findings.add(cutOnSheet, place,
                            "sur la feuille, " + (last.empty() ? "rien n'est imprimé" : "coupé après " + quoted(last)) +
-                               " : il y manque " + quoted(box.lost));
-  }
-
-  // The words of all columns, printed or lost, are those of the names in their order.
-  void checkSkills(frmFeuille& sheet) {
-    std::vector<std::pair<std::string, std::string>> words;
-    std::int32_t shown = 0;
-    for (const auto& row : window().lvwSkillGen.rows()) {
-      if (window().prcSkillNotOnSheet(*row)) continue;
-      ++shown;
-      for (auto& word : wordsOf(row->Text())) words.emplace_back(std::move(word), row->Text());
-    }
-    std::size_t next = 0;
-    for (int column = 0; column < sheet.shpNames.size(); ++column) {
-      const PrintedBox box(sheet, sheet.shpNames(column));
-      for (const auto& line : box.lines) {
-        next += wordsOf(line).size();
-        if (next < words.size() && words[next].second == words[next - 1].second) findWrapped(words[next].second);
-      }
-      if (!box.lost.empty()) findLostSkill(box, words[next].second, column + 1, shown);
-      next += wordsOf(box.lost).size();
-    }
-  }
-
-  void findWrapped(const std::string& skill) {
-    folder_.findings.add(
-        wrappedOnSheet, placeOf(skill),
-        quoted(skill) + " prend deux lignes sur la feuille, et les niveaux derrière ne sont plus en face");
-  }
-
-  void findLostSkill(const PrintedBox& box, const std::string& skill, int column, std::int32_t shown) {
-    if (box.wordTooWide)
-      return folder_.findings.add(wordTooWide, placeOf(skill),
-                                  quoted(box.firstLostWord()) + " est plus large que sa colonne sur la feuille," +
-                                      " où manquent cette compétence et toutes celles derrière");
-    if (std::exchange(foundTooMany_, true)) return;
-    folder_.findings.add(tooManySkills, {skillFormat.file},
-                         std::to_string(shown) +
-                             " compétences à imprimer ne tiennent pas sur la feuille : la colonne " +
-                             std::to_string(column) + " est coupée avant " + quoted(skill));
-  }
-
-  DataPlace placeOf(const std::string& skill) const {
-    const auto found = skillByName_.find(skill);
-    return found == skillByName_.end() ? DataPlace{.file = skillFormat.file, .isSound = false}
-                                       : folder_.places.of(skillFormat.file, found->second, "sName");
+                               with + " : il y manque " + quoted(box.lost));
   }
 
   DataFolder& folder_;
   const std::vector<std::int32_t>& profiles_;
   Trial trial_;
   User user_;
-  std::unordered_map<std::string, std::int32_t> skillByName_;               // positions
   std::set<std::tuple<std::string_view, std::int32_t, std::int32_t>> cut_;  // places
   bool foundTooMany_ = false;
 };

@@ -133,6 +133,9 @@ class SkillCheck {
                                ", au-dessus du plus haut niveau à atteindre hors profil, " +
                                numberText(limits.highest));
     if (!folder_.places.of(skillFormat.file, position, "iKey").isSound) return;
+    const bool isOfVehicle =
+        std::any_of(vehicles_.begin(), vehicles_.end(), [&](const auto& vehicle) { return vehicle.skill == position; });
+    if (skill.iKey == vehicleCode && isOfVehicle) return;  // which is worse, and found already
     if (skill.iKey == vehicleCode)
       folder_.findings.add(unreachableSkill, nameOfSkill(position),
                            quoted(skill.sName) + " a la clé 101 du véhicule de prédilection et n'est jamais proposée");

@@ -99,14 +99,13 @@ std::optional<double> valueRead(const FieldText& element) {
   }
 }
 
-// The same for one that is more, or less, than that number.
-std::optional<double> looseValue(const FieldText& element) {
-  const auto value = valueRead(element);
+// Whether it is no more, and no less, than that number.
+bool isJust(std::string_view bytes, double value) {
   try {
-    if (value == strictNumber(element.bytes)) return std::nullopt;
+    return strictNumber(bytes) == value;
   } catch (const Failure&) {
+    return false;
   }
-  return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 class FolderReading : public Reading {
@@ -134,11 +133,13 @@ class FolderReading : public Reading {
     if (text.position == 1) keysOfArt_.clear();
     if (!isListElement(text.field)) return;
     const DataPlace place{text.file, text.line, text.column, text.field.member};
-    if (const auto value = looseValue(text)) {
+    const auto value = valueRead(text);
+    if (!value || !std::isfinite(*value)) return;
+    if (!isJust(text.bytes, *value)) {
       loose_ = {place, shown(text.bytes) + " est lu comme " + numberText(*value)};
       noteDigits(text);
-    } else if (const auto key = valueRead(text); key && text.field.member == technicsOfArt) {
-      if (!keysOfArt_.insert(*key).second) folder_.repeatedTechnics.push_back({place, static_cast<std::int16_t>(*key)});
+    } else if (text.field.member == technicsOfArt) {
+      noteRepetition({place, static_cast<std::int16_t>(*value)});
     }
   }
 
@@ -174,6 +175,10 @@ class FolderReading : public Reading {
   void findMisread() {
     for (const auto& [place, told] : misread_) folder_.findings.add(told.kind, place, told.text);
     misread_.clear();
+  }
+
+  void noteRepetition(const CitedTechnic& cited) {
+    if (!keysOfArt_.insert(cited.key).second) folder_.repeatedTechnics.push_back(cited);
   }
 
   void noteDigits(const FieldText& text) {
@@ -224,7 +229,7 @@ class FolderReading : public Reading {
   // The field told last, of a list, where it is more or less than a number.
   std::optional<std::pair<DataPlace, std::string>> loose_;
   std::vector<std::pair<DataPlace, Told>> misread_;  // in the line that is being read
-  std::set<double> keysOfArt_;                       // in the same line
+  std::set<std::int16_t> keysOfArt_;                 // in the same line
   bool isAssermenteOutOfReach_ = false;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace orvane {
 
 class frmFeuille;
@@ -15,5 +17,7 @@ void setFontSizes(frmFeuille& sheet, float points);
 void composeRecto(frmFeuille& sheet, const frmPersonnage& perso);
 // Leaves the font of both pictures at the size of the equipment text, if that was printed.
 void composeVerso(frmFeuille& sheet, const frmPersonnage& perso);
+// The names of skills, a line each, into one of the three columns.
+void printSkillNames(frmFeuille& sheet, int column, std::string names);
 
 }  // namespace orvane

@@ -40,7 +40,7 @@ class SkillPrinter {
   }
 
   void endColumn(int column) {
-    prcPrintInShape(std::move(sNames_), sheet_.pctVerso, sheet_.shpNames(column), 0, skillGap);
+    printSkillNames(sheet_, column, std::move(sNames_));
     prcPrintInShape(std::move(sValues_), sheet_.pctVerso, sheet_.shpValues(column), 1, skillGap);
     sNames_.clear();
     sValues_.clear();
@@ -82,6 +82,10 @@ void printEquipment(frmFeuille& sheet, const frmPersonnage& perso) {
 }
 
 }  // namespace
+
+void printSkillNames(frmFeuille& sheet, int column, std::string names) {
+  prcPrintInShape(std::move(names), sheet.pctVerso, sheet.shpNames(column), 0, skillGap);
+}
 
 void composeVerso(frmFeuille& sheet, const frmPersonnage& perso) {
   printMartialArts(sheet, perso);
