@@ -1,23 +1,12 @@
 #include "player/script_parser.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <unicode/ustring.h>
 
 #include "player/act_kinds.h"
 #include "surface/text.h"
 
 namespace orvane {
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-bool isUtf8(std::string_view text) {
-  std::int32_t units = 0;
-  UErrorCode status = U_ZERO_ERROR;
-  u_strFromUTF8(nullptr, 0, &units, text.data(), static_cast<std::int32_t>(text.size()), &status);
-  return status != U_INVALID_CHAR_FOUND;
-}
 
 std::string usage(const ActKind& kind) {
   std::string shown = "« " + kind.name + " » s'écrit : " + kind.name;
@@ -43,7 +32,7 @@ Act parseAct(const std::vector<Word>& words) {
 }
 
 void parseLine(Script& script, std::string_view line, int number) {
-  if (!isUtf8(line)) throw LineError{"la ligne n'est pas en UTF-8"};
+  requireUtf8(line);
   if (line.starts_with('#')) return;
   const auto words = scriptWords(line);
   if (words.empty()) return;
@@ -55,7 +44,7 @@ void parseLine(Script& script, std::string_view line, int number) {
 
 Script parseScript(const std::string& file, std::string_view bytes) {
   Script script{file, {}};
-  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
+  bytes = withoutByteOrderMark(bytes);
   if (bytes.ends_with('\r')) bytes.remove_suffix(1);  // a last line without its LF
   int number = 0;
   try {

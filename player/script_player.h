@@ -22,12 +22,21 @@ class Door {
   virtual std::unique_ptr<User> user(Run& run) = 0;
 };
 
+// Shows how far a long work has come, beside what it prints.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+  virtual void show(std::size_t ended, std::size_t of) = 0;
+  virtual void hide() = 0;
+};
+
 // The parts of the outside world that the player does not bring itself.
 struct PlayerParts {
   Files& files;
   Pictures& pictures;
   Clock& timeOfDay;
   Door* door = nullptr;
+  Progress* progress = nullptr;
 };
 
 // One run of the system that scripts are played in, one after another.

@@ -1,6 +1,8 @@
 #include "player/script_words.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <unicode/ustring.h>
 
 namespace orvane {
 namespace {
@@ -69,6 +71,18 @@ class LineCutter {
 };
 
 }  // namespace
+
+void requireUtf8(std::string_view line) {
+  std::int32_t units = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  u_strFromUTF8(nullptr, 0, &units, line.data(), static_cast<std::int32_t>(line.size()), &status);
+  if (status == U_INVALID_CHAR_FOUND) throw LineError{"la ligne n'est pas en UTF-8"};
+}
+
+std::string_view withoutByteOrderMark(std::string_view bytes) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  return bytes.starts_with(mark) ? bytes.substr(mark.size()) : bytes;
+}
 
 std::vector<Word> scriptWords(std::string_view line) { return LineCutter(line).words(); }
 

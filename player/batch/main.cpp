@@ -1,13 +1,38 @@
 #include <iostream>
+#include <unistd.h>
 
-#include <QGuiApplication>
-#include <QLoggingCategory>
-
-#include "canvas/qt_pictures.h"
 #include "canvas/sheet_font.h"
+#include "player/batch/late_pictures.h"
 #include "player/play_scripts.h"
 #include "surface/disk_files.h"
 #include "surface/system_clock.h"
+
+namespace {
+
+// The last line of a terminal.
+class ProgressBar final : public orvane::Progress {
+ public:
+  void show(std::size_t ended, std::size_t of) override {
+    constexpr std::size_t width = 40;
+    const std::size_t filled = ended * width / of;
+    std::cerr << '[' << std::string(filled, '#') << std::string(width - filled, ' ') << "] " << ended << '/' << of
+              << std::flush;
+  }
+  void hide() override { std::cerr << "\r\033[K" << std::flush; }
+};
+
+// Nobody sits in front of it: a save waits for its turn, among as many processes as there are.
+class PatientFiles final : public orvane::DiskFiles {
+ public:
+  std::unique_ptr<orvane::FolderLock> lock(const std::string& directory, float seconds) override {
+    return DiskFiles::lock(directory, seconds > 0 ? longest : seconds);
+  }
+
+ private:
+  static constexpr float longest = 60;
+};
+
+}  // namespace
 
 int main(int argc, char** argv) {
   // Only the streams' own buffers tell a reader that standard input has failed.
@@ -17,13 +42,11 @@ int main(int argc, char** argv) {
   // Pictures need no screen, whatever the session's own settings ask for.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
-  int names = 1;  // the toolkit gets the name of the program and none of its arguments
-  // What the toolkit misses in a session without a desktop is no message about a script.
-  QLoggingCategory::setFilterRules("default.warning=false");
-  const QGuiApplication application(names, argv);
-  QLoggingCategory::setFilterRules({});
-  orvane::DiskFiles files;
-  orvane::QtPictures pictures;
+  PatientFiles files;
+  orvane::LatePictures pictures(argv);
   orvane::SystemClock timeOfDay;
-  return orvane::playScripts(arguments, std::cin, std::cout, std::cerr, {files, pictures, timeOfDay});
+  ProgressBar bar;
+  orvane::PlayerParts parts{files, pictures, timeOfDay};
+  if (::isatty(STDERR_FILENO)) parts.progress = &bar;
+  return orvane::playScripts(arguments, std::cin, std::cout, std::cerr, parts);
 }

@@ -1,0 +1,85 @@
+#include "player/play_table.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "player/filled_script.h"
+#include "player/ordered_runs.h"
+#include "player/script_parser.h"
+
+namespace orvane {
+namespace {
+
+// The scripts of a run for each row of a table; a row whose scripts cannot be parsed has none and says why.
+struct RowScripts {
+  std::vector<Script> scripts;
+  std::string fault;
+};
+
+RowScripts scriptsOf(const Table& table, const Table::Row& row, const std::vector<ScriptText>& texts) {
+  std::vector<ScriptText> filled;
+  for (const auto& [name, text] : texts) filled.push_back({name, filledScript(text, table, row)});
+  try {
+    return {parsed(filled), {}};
+  } catch (const ScriptError& error) {
+    return {{}, error.message};
+  }
+}
+
+std::string placeOf(const Table& table, std::size_t row) {
+  return table.file + ":" + std::to_string(table.rows[row].line) + ": ";
+}
+
+std::vector<RowScripts> scriptsOf(const Table& table, const std::vector<ScriptText>& texts, bool keepGoing) {
+  for (const auto& [name, text] : texts) requireColumnsOf(table, name, text);
+  std::vector<RowScripts> rows;
+  for (const auto& row : table.rows) {
+    rows.push_back(scriptsOf(table, row, texts));
+    if (!keepGoing && !rows.back().fault.empty())
+      throw ScriptError{placeOf(table, rows.size() - 1) + rows.back().fault};
+  }
+  return rows;
+}
+
+RunResult playRow(const RowScripts& row, PlayerParts parts) {
+  if (!row.fault.empty()) return {status::notAllDone, {}, row.fault + "\n"};
+  std::ostringstream out, err;
+  const int ended = playOneRun(row.scripts, out, err, parts, false);
+  return {ended, out.str(), err.str()};
+}
+
+std::string_view wordsOn(int ended) {
+  return ended == status::notSaved ? "la feuille n'a pas pu être sauvée"
+                                   : "la ligne n'a pas été jouée comme il fallait";
+}
+
+class NoProgress : public Progress {
+  void show(std::size_t, std::size_t) override {}
+  void hide() override {}
+};
+
+}  // namespace
+
+int playTable(const Table& table, const std::vector<ScriptText>& texts, TableOptions options, std::ostream& out,
+              std::ostream& err, PlayerParts parts) {
+  const auto rows = scriptsOf(table, texts, options.keepGoing);
+  NoProgress none;
+  Progress& progress = parts.progress ? *parts.progress : none;
+  int worst = status::done;
+  std::size_t row = 0;
+  const auto take = [&](const RunResult& result) {
+    progress.hide();
+    out << result.transcript << std::flush;
+    err << result.notices;
+    if (result.status != status::done) err << placeOf(table, row) << wordsOn(result.status) << std::endl;
+    progress.show(++row, rows.size());
+    worst = std::max(worst, result.status);
+    return options.keepGoing || worst == status::done;
+  };
+  playInOrder(
+      rows.size(), options.jobs, [&](std::size_t i) { return playRow(rows[i], parts); }, take);
+  progress.hide();
+  return worst;
+}
+
+}  // namespace orvane
