@@ -1,11 +1,13 @@
-# Completes the options and files of orvane-batch and orvane-check.
+# Completes the options and files of the programs that have any.
 _orvane() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options="--help --version"
   case $1 in
     *orvane-batch) options+=" --keep-going --with --jobs" ;;
     *orvane-check) options+=" --format --sheet" ;;
   esac
-  if [[ $before == --format ]]; then
+  if [[ $1 == *orvane-launch ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+  elif [[ $before == --format ]]; then
     mapfile -t COMPREPLY < <(compgen -W "text json" -- "$word")
   elif [[ $word == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
@@ -14,4 +16,4 @@ _orvane() {
     mapfile -t COMPREPLY < <(if [[ $1 == *-check ]]; then compgen -d -- "$word"; else compgen -f -- "$word"; fi)
   fi
 }
-complete -F _orvane orvane-batch orvane-check
+complete -F _orvane orvane-batch orvane-check orvane-launch
