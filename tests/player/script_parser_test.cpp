@@ -18,7 +18,7 @@ std::string fault(const std::string& text) {
 
 TEST(ScriptParser, SkipsBlankLinesCommentsAndByteOrderMarkAndCountsLines) {
   const Script script =
-      parseScript("x", "\xEF\xBB\xBF# début \"\r\n\n \t\n  click  txtCaract(3)\t\r\ntype a \"Éloïse\"\r\nclose");
+      parseScript("x", "\xEF\xBB\xBF# début \"\r\n\n \t\n  click  txtCaract(3)\t\r\ntype a \"Éloïse\"\r\nclose\r");
   ASSERT_EQ(script.acts.size(), 3U);
   EXPECT_EQ(script.acts[0].line, 4);
   EXPECT_EQ(script.acts[0].kind->name, "click");
