@@ -29,7 +29,7 @@ struct Piece {
   double gap;  // in dots, to what it follows in a column
 };
 
-QString heading(const QString& words) { return "<h2>&nbsp;" + words + "</h2>"; }
+QString heading(const QString& words) { return "<h2>" + words + "</h2>"; }
 
 QString signHeading(const clsMutation& power) {
   return heading(QString::fromStdString(power.sCateg) +
