@@ -7,7 +7,7 @@ namespace orvane {
 std::vector<Finding> checkFolder(const std::string& path, Pictures& pictures, bool withSheets) {
   auto folder = readFolder(path);
   checkContents(folder);
-  const auto offer = offerOf(folder.data, pictures);
+  auto offer = offerOf(folder.data, pictures);
   checkSkills(folder, offer);
   const auto applicable = checkProfiles(folder, offer, pictures);
   checkPowers(folder, pictures);

@@ -174,6 +174,7 @@ class ProfileCheck {
     const auto named = elementsFor(data_.colSkill(skill)->iKey, vehicle);
     const bool byVehicle =
         std::any_of(named.begin(), named.end(), [](const auto& element) { return element.key == vehicleCode; });
+    if (byVehicle && !vehicle->isInPlace) return;
     const std::string name = quoted(data_.colSkill(skill)->sName);
     const std::string redundant = name + " est redondante";
     const std::string with = withVehicle(byVehicle ? vehicle : nullptr);

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <map>
+#include <set>
 
 #include "check/checks.h"
 #include "check/names.h"
@@ -16,7 +17,7 @@ namespace {
 
 class SkillCheck {
  public:
-  SkillCheck(DataFolder& folder, const Offer& offer)
+  SkillCheck(DataFolder& folder, Offer& offer)
       : folder_(folder),
         data_(folder.data),
         vehicles_(offer.vehicles),
@@ -39,11 +40,15 @@ class SkillCheck {
 
   void checkPositions() {
     std::map<std::int32_t, std::vector<Moved>> moved;  // by the distance
-    for (const auto& vehicle : vehicles_)
-      if (const auto now = positionOf(vehicle); now != vehicle.skill)
-        moved[now - vehicle.skill].push_back({vehicle, now});
+    for (auto& vehicle : vehicles_) {
+      const auto now = positionOf(vehicle);
+      vehicle.isInPlace = now == vehicle.skill;
+      if (vehicle.isInPlace) continue;
+      use(now);  // as it will be
+      moved[now - vehicle.skill].push_back({vehicle, now});
+    }
     for (const auto& [distance, vehicles] : moved)
-      if (!isConsequence(distance, vehicles, moved)) findMoved(vehicles);
+      if (!isConsequence(distance, vehicles, moved) && distance != doubledBefore(vehicles)) findMoved(vehicles);
   }
 
   // Where the skill of a vehicle stands; its own position where nothing is wrong with it, or that is found at once.
@@ -75,6 +80,15 @@ class SkillCheck {
           }))
         return true;
     return false;
+  }
+
+  // How many lines before the skills of vehicles stand there a second time, which is found as such.
+  std::int32_t doubledBefore(const std::vector<Moved>& vehicles) const {
+    std::set<std::pair<std::int16_t, std::string_view>> known;
+    std::int32_t doubled = 0;
+    for (std::int32_t i = 1; i < vehicles.front().now; ++i)
+      doubled += !known.emplace(data_.colSkill(i)->iKey, data_.colSkill(i)->sName).second;
+    return doubled;
   }
 
   void findMoved(const std::vector<Moved>& vehicles) {
@@ -151,7 +165,7 @@ class SkillCheck {
 
   DataFolder& folder_;
   const ReferenceData& data_;
-  const std::vector<Vehicle>& vehicles_;
+  std::vector<Vehicle>& vehicles_;
   const SkillIndex index_;
   std::map<double, std::vector<DataPlace>> unknown_;  // in profiles, by their keys
   std::vector<bool> isUsed_;                          // by the position of a skill: some profile names it
@@ -159,7 +173,7 @@ class SkillCheck {
 
 }  // namespace
 
-void checkSkills(DataFolder& folder, const Offer& offer) {
+void checkSkills(DataFolder& folder, Offer& offer) {
   if (folder.data.colSkill.Count() > 0) SkillCheck(folder, offer).run();
 }
 

@@ -12,8 +12,8 @@ namespace orvane {
 // What the records hold, and how those of one file fit those of another.
 void checkContents(DataFolder& folder);
 
-// What the rules do with the skills, and the profiles with their keys.
-void checkSkills(DataFolder& folder, const Offer& offer);
+// What the rules do with the skills, and the profiles with their keys. Tells the offer which vehicles have moved.
+void checkSkills(DataFolder& folder, Offer& offer);
 
 // What the rules let characters be.
 struct Applicable {

@@ -123,14 +123,17 @@ class FolderReading : public Reading {
       find(fault, place);
     isAssermenteOutOfReach_ |= fault.kind == FaultKind::AssermenteOutOfReach;
     if (place.member.empty()) return;
-    folder_.places.spoil(fault.kind == FaultKind::Separator);
-    if (fault.kind == FaultKind::Separator || isKey(fault.at.field)) noteDigits(fault.at);
+    const bool isBroken = fault.kind == FaultKind::Separator;
+    folder_.places.spoil(isBroken);
+    if (isBroken && !isListElement(fault.at.field)) folder_.places.spoilRecord();
+    if (isBroken || isKey(fault.at.field)) noteDigits(fault.at);
   }
 
   void field(const FieldText& text) override {
     findLooseNumber();
     folder_.places.field(text);
     if (text.position == 1) keysOfArt_.clear();
+    if (isDescriptionOfNumber(text)) noteDigits(text);
     if (!isListElement(text.field)) return;
     const DataPlace place{text.file, text.line, text.column, text.field.member};
     const auto value = valueRead(text);
@@ -152,6 +155,11 @@ class FolderReading : public Reading {
  private:
   static bool isListElement(const Field& field) { return field.member.starts_with("col"); }
   static bool isKey(const Field& field) { return field.member == "iKey" || isListElement(field); }
+
+  // As the first key of a list is where a ";" is missing before it.
+  static bool isDescriptionOfNumber(const FieldText& text) {
+    return text.field.member == "sDescro" && text.bytes.find_first_not_of("0123456789") == std::string_view::npos;
+  }
 
   // A text where a number or a word should be waits for the end of its line: it may be what a missing ";" did.
   void find(const Fault& fault, DataPlace place) {

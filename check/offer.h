@@ -13,6 +13,7 @@ namespace orvane {
 struct Vehicle {
   std::string name;
   std::int32_t skill = 0;  // position in colSkill
+  bool isInPlace = true;   // false: that skill is found to be another's, and means nothing about the vehicle
 };
 
 // What a player has to choose from.

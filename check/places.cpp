@@ -33,6 +33,12 @@ void Places::spoil(bool restOfLine) {
   now_->isBroken |= restOfLine;
 }
 
+void Places::spoilRecord() {
+  for (std::size_t cell = now_->underWay.firstCell; cell < now_->cells.size(); ++cell)
+    now_->cells[cell].isSound &= now_->cells[cell].member == "iKey";
+  now_->isBroken = true;
+}
+
 bool Places::hasRecords(std::string_view file) const {
   const auto found = files_.find(file);
   return found != files_.end() && !found->second.records.empty();

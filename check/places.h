@@ -27,6 +27,8 @@ class Places {
   void record();
   // The field told last means nothing; nor does what follows in its line, where that is broken there.
   void spoil(bool restOfLine);
+  // Nor do the fields told before it in its line, but for its key.
+  void spoilRecord();
 
   bool hasRecords(std::string_view file) const;
   // The field of a record, which is counted from 1 in its file, that fills a member; of a list the n-th one.
