@@ -49,6 +49,14 @@ bool isBlankLine(const Fault& fault) {
          fault.at.bytes.find_first_not_of(' ') == std::string_view::npos;
 }
 
+// What failed and why; the file stands before it.
+std::string withoutPath(std::string_view failure) {
+  const auto path = failure.find(" : ");
+  const auto reason = failure.rfind(" (");
+  if (path > reason || reason == std::string_view::npos) return std::string(failure);
+  return std::string(failure.substr(0, path)).append(failure.substr(reason, failure.rfind('.') - reason));
+}
+
 struct Told {
   FindingKind kind;
   std::string text;
@@ -60,7 +68,7 @@ Told toldOf(const Fault& fault) {
     case FaultKind::MissingFile:
       return {missingFile, "fichier manquant"};
     case FaultKind::UnreadableFile:
-      return {unreadableFile, std::string(fault.text.substr(0, fault.text.rfind('.')))};
+      return {unreadableFile, withoutPath(fault.text)};
     case FaultKind::EmptyFile:
       return {emptyFile, "fichier vide : il y manque jusqu'à la ligne de titre"};
     case FaultKind::NoLineEnd:

@@ -85,6 +85,12 @@ TEST_F(Check, TheExitStatusIsTheWorstOfAll) {
   const std::string strange = folder / "dos\xE9";
   fs::copy(folder, strange);
   EXPECT_TRUE(check({strange, "--format", "json"}).find("dos\uFFFD/ethnie.txt") != std::string::npos) << text;
+  fs::create_symlink("/dev/null", folder / "new.txt");
+  fs::rename(folder / "new.txt", folder / "skill.txt");
+  EXPECT_TRUE(
+      check({folder}).find("/skill.txt:1:1: erreur: Lecture impossible (ce n'est pas un fichier ordinaire)\n") !=
+      std::string::npos)
+      << text;
   const std::string none = folder / "none";
   check({none});
   EXPECT_EQ(status, 3);
