@@ -25,8 +25,8 @@ class SkillCheck {
         isUsed_(static_cast<std::size_t>(folder.data.colSkill.Count()) + 1) {}
 
   void run() {
-    checkPositions();
     for (std::int32_t i = 1; i <= data_.colProfil.Count(); ++i) checkKeys(i);
+    checkPositions();
     findUnknownSkills();
     for (std::int32_t i = 1; i <= data_.colSkill.Count(); ++i) checkSkill(i);
   }
@@ -98,7 +98,21 @@ class SkillCheck {
                       quoted(data_.colSkill(now)->sName) + " est la n° " + std::to_string(now));
     const auto first = std::min_element(vehicles.begin(), vehicles.end(),
                                         [](const auto& a, const auto& b) { return a.vehicle.skill < b.vehicle.skill; });
-    folder_.findings.add(vehiclePosition, nameOfSkill(first->vehicle.skill), listed(texts));
+    folder_.findings.add(vehiclePosition, nameOfSkill(first->vehicle.skill), listed(texts) + lostBefore(*first));
+  }
+
+  // The line that has gone missing before a skill which stands one place before its own: the key that profiles want and
+  // nobody bears, if it fits between the others there. That is then no finding of its own.
+  std::string lostBefore(const Moved& first) {
+    if (first.now != first.vehicle.skill - 1) return {};
+    for (std::int32_t i = 1; i < first.now; ++i)
+      for (const int beside : {1, -1})
+        if (const auto lost = unknown_.find(data_.colSkill(i)->iKey + beside); lost != unknown_.end()) {
+          const auto places = unknown_.extract(lost).mapped();
+          return " ; il manque sans doute la ligne de clé " + numberText(data_.colSkill(i)->iKey + beside) +
+                 ", citée dans profil.txt à la ligne " + std::to_string(places.front().line) + alsoCited(places);
+        }
+    return {};
   }
 
   static std::string given(const Vehicle& vehicle) {
@@ -112,7 +126,7 @@ class SkillCheck {
       for (const auto skill : index_.positionsOf(key)) use(skill);
       if (key == vehicleCode)
         for (const auto& vehicle : vehicles_) use(vehicle.skill);
-      else if (index_.positionsOf(key).empty())
+      else if (index_.positionsOf(key).empty() && !folder_.isDoubtful(skillFormat.file, key) && !isFixed(key))
         if (const auto place = folder_.places.of(profilFormat.file, profile, "colSkillPro", nth); place.isSound)
           unknown_[key].push_back(place);
     }
@@ -121,9 +135,8 @@ class SkillCheck {
   // Places that want the same key are one finding: it is the skill that is missing.
   void findUnknownSkills() {
     for (const auto& [key, places] : unknown_)
-      if (!folder_.isDoubtful(skillFormat.file, key) && !isFixed(key))
-        folder_.findings.add(unknownSkill, places.front(),
-                             "aucune compétence n'a la clé " + shown(key) + alsoCited(places));
+      folder_.findings.add(unknownSkill, places.front(),
+                           "aucune compétence n'a la clé " + shown(key) + alsoCited(places));
   }
 
   // A missing skill of the rules is found without them.

@@ -220,7 +220,7 @@ class FolderReading : public Reading {
   bool isAssermenteBroken() const {
     const auto& profiles = folder_.data.colProfil;
     for (std::int32_t i = 1; i <= profiles.Count(); ++i)
-      if (!folder_.places.of(profilFormat.file, i, "sName").isSound &&
+      if (!folder_.places.of(profilFormat.file, i, "bAsserm").isSound &&
           foldedName(profiles(i)->sName).starts_with(foldedName(clsProfil::swornName)))
         return true;
     return false;
