@@ -78,10 +78,13 @@ TEST(RtfReader, MarkupByMarkup) {
       {"\\uc3\\u233 a{b}c", "<p>ébc</p>"},
       {"\\u-4064?\\u128512?\\u0?\\u10?", "<p>\uF020😀</p>"},
       {"\\u-10179?a\\u-8704?b\\u-10179?\\u-10179?\\u-8704?\\u-10179?", "<p>\uFFFDa\uFFFDb\uFFFD😀\uFFFD</p>"},
+      {"\\u-10179?\\u-8192?\\u-9216?\\u-9216?", "<p>\uFFFD\uE000\uFFFD\uFFFD</p>"},
       {"\\u-70000?\\u99999999999?", "<p>\uFFFD\uFFFD</p>"},
       // Characters
       {"a{\\b b{\\v c}}{}{\\b\\b0}d\\b1 e\\plain f", "<p>a" + bold + "b</span>d" + bold + "e</span>f</p>"},
       {"\\fs0 a\\fs-4 b\\cf7 c\\cf-1 d\\f9 e", "<p>abcde</p>"},
+      {"\\cf1 a{\\colortbl;\\red255;}b", "<p>a<span style=\"color:#FF0000;\">b</span></p>"},
+      {"\\fs1 a", "<p style=\"font-size:0.5pt;\">a</p>"},
       {"\\fs99999999999 a", "<p style=\"font-size:1638pt;\">a</p>"},
       {"{\\colortbl;\\red999\\green-5;\\blue0;}\\cf1 a\\par\\cf2 b", "<p style=\"color:#FF0000;\">a</p><p>b</p>"},
       {"\\deff4{\\fonttbl{\\f0 A<\"'{\\*\\falt T}B;}{\\f4 Last}}\\b\\plain a\\par\\f0 b",
@@ -92,6 +95,7 @@ TEST(RtfReader, MarkupByMarkup) {
       {"{a}\\par}}b\\par", "<p>a</p>"},  // nothing is read after the end
       {"{\\fs40\\par}", "<p style=\"font-size:20pt;\">\u00A0</p>"},
       {"{\\listtext\\f3\\'a7\\tab}a", "<p style=\"margin:0px 0px 0px 24px;text-indent:-24px\">•\ta</p>"},
+      {"{\\listtext 0\\tab}a", "<p style=\"margin:0px 0px 0px 24px;text-indent:-24px\">0\ta</p>"},
       {"{\\listtext 2.\\tab}\\li360\\fi-360 a", "<p style=\"margin:0px 0px 0px 24px;text-indent:-24px\">2.\ta</p>"},
       {"{\\*\\pn\\pnlvlblt{\\pntxtb *}}\\fi-15 a\\par\\pard b\\pnlvlblt",
        "<p style=\"margin:0px 0px 0px 0px;text-indent:-1px\">•\ta</p><p>b</p>"},
