@@ -42,8 +42,16 @@ struct Told {
   }
 };
 
+// Whoever reads what is told holds nobody up.
+struct DialogsOutOfTurn : LoggedDialogs {
+  void notice(const std::string& text) override {
+    EXPECT_TRUE(DiskFiles().lock("./Perso", 0)) << text;
+    LoggedDialogs::notice(text);
+  }
+};
+
 Told save(Files& files, const Bitmaps& bitmaps) {
-  LoggedDialogs dialogs;
+  DialogsOutOfTurn dialogs;
   Told told;
   SheetFiles sheet(files, "Luc");
   try {
@@ -246,6 +254,21 @@ TEST_F(Pair, OfTwoProgramsThatSaveOneNameIsThatOfOne) {
     EXPECT_TRUE(pair() == fresh || pair() == dead) << pair()[0] << ", " << pair()[1];
     EXPECT_EQ(companions(), std::set<std::string>());
   }
+}
+
+TEST_F(Pair, TakesBackWhatADeadProgramBeganAndKeepsTheRightsOfWhatItReplaces) {
+  State state{.name = "", .pair = former};
+  do {
+    ++state.deadAt;
+    setUp(state);
+  } while (companions().empty());
+  fs::permissions(goals[1], fs::perms(0640));
+  DiskFiles disk;
+  const Told told = save(disk, fresh);
+  EXPECT_TRUE(told.saved && told.names("a été interrompue"));
+  EXPECT_EQ(pair(), fresh);
+  EXPECT_EQ(companions(), std::set<std::string>());
+  EXPECT_EQ(fs::status(goals[1]).permissions(), fs::perms(0640));
 }
 
 TEST_F(Pair, WaitsForItsTurnAndSaysWhoIsFirst) {
