@@ -141,7 +141,7 @@ class FolderReading : public Reading {
     findLooseNumber();
     folder_.places.field(text);
     if (text.position == 1) keysOfArt_.clear();
-    if (isDescriptionOfNumber(text)) noteDigits(text);
+    if (text.field.member == "sDescro" && hasList(text.file)) findSwallowedKey(text);
     if (!isListElement(text.field)) return;
     const DataPlace place{text.file, text.line, text.column, text.field.member};
     const auto value = valueRead(text);
@@ -164,9 +164,19 @@ class FolderReading : public Reading {
   static bool isListElement(const Field& field) { return field.member.starts_with("col"); }
   static bool isKey(const Field& field) { return field.member == "iKey" || isListElement(field); }
 
-  // As the first key of a list is where a ";" is missing before it.
-  static bool isDescriptionOfNumber(const FieldText& text) {
-    return text.field.member == "sDescro" && text.bytes.find_first_not_of("0123456789") == std::string_view::npos;
+  static bool hasList(std::string_view file) { return file == profilFormat.file || file == martialArtFormat.file; }
+
+  // The first key of a list, where the ";" before it is missing; all of the text, where one before that is, which has
+  // its own finding.
+  void findSwallowedKey(FieldText text) {
+    const auto start = text.bytes.find_last_not_of("0123456789") + 1;
+    if (start == text.bytes.size() || (start > 0 && text.bytes[start - 1] == ' ')) return;
+    text.bytes.remove_prefix(start);
+    text.column += static_cast<std::int32_t>(start);
+    noteDigits(text);
+    if (start > 0)
+      folder_.findings.add(swallowedKey, {text.file, text.line, text.column, text.field.member},
+                           "finit par " + shown(text.bytes) + " : « ; » manque sans doute devant cette clé");
   }
 
   // A text where a number or a word should be waits for the end of its line: it may be what a missing ";" did.

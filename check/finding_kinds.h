@@ -33,6 +33,7 @@ inline constexpr FindingKind titleIsRecord{"title-is-record"};
 inline constexpr FindingKind noRecord{"no-record"};
 inline constexpr FindingKind tooManyRecords{"too-many-records"};
 inline constexpr FindingKind looseNumber{"loose-number"};
+inline constexpr FindingKind swallowedKey{"swallowed-key"};
 inline constexpr FindingKind alikeNames{"alike-names"};
 inline constexpr FindingKind duplicateKey{"duplicate-key"};
 inline constexpr FindingKind duplicateNumber{"duplicate-number"};
