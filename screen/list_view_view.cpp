@@ -17,6 +17,13 @@
 #include "surface/desktop.h"
 
 namespace orvane {
+namespace {
+
+bool isHidden(const ListView& list, int column) {
+  return list.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0;
+}
+
+}  // namespace
 
 ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
     : View(list, tree, form), list_(list), tree_(tree) {
@@ -62,7 +69,7 @@ void ListViewView::showColumns() {
   tree_.header()->setSectionResizeMode(QHeaderView::Fixed);
   tree_.header()->setSectionResizeMode(0, QHeaderView::Stretch);
   for (int column = 1; column < static_cast<int>(count); ++column)
-    tree_.setColumnHidden(column, list_.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0);
+    tree_.setColumnHidden(column, isHidden(list_, column));
 }
 
 namespace {
@@ -111,17 +118,28 @@ std::string nameOf(const ListView& list, const ListItem& row) {
   return belongsAbove(row) ? list.ListItems(row.Index() - 1)->Text() : row.Text();
 }
 
-// "Tir, niveau 3": what a screen reader says of a row. The number that comes first is the level.
+// The number that comes first is the level; 0 where there is none.
+int levelColumn(const ListView& list, const ListItem& row) {
+  for (int column = 1; column <= row.subItemCount(); ++column)
+    if (!isHidden(list, column) && isNumber(toQt(row.SubItems(column)))) return column;
+  return 0;
+}
+
+QString spokenCell(const QString& text, bool isLevel) {
+  if (!isNumber(text)) return text;
+  return (isLevel ? "niveau " : "base ") + text;
+}
+
+// "Tir, niveau 3": what a screen reader says of a row.
 QString spokenRow(const ListView& list, const ListItem& row) {
   QStringList said;
   if (const auto name = nameOf(list, row); !name.empty()) said << toQt(name);
   if (row.Bold()) said << "compétence du profil";
-  bool levelSaid = false;
+  const int level = levelColumn(list, row);
   for (int column = 1; column <= row.subItemCount(); ++column) {
     const QString text = toQt(row.SubItems(column));
-    if (list.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0 || text.isEmpty()) continue;
-    if (!isNumber(text)) said << text;
-    if (isNumber(text) && !std::exchange(levelSaid, true)) said << "niveau " + text;
+    if (isHidden(list, column) || text.isEmpty()) continue;
+    if (!isNumber(text) || column == level) said << spokenCell(text, true);
   }
   return said.join(", ");
 }
@@ -137,11 +155,14 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   write(item, 0, cellColourRole, cellColour(row.ForeColor()));
   write(item, 0, Qt::AccessibleTextRole, spokenRow(list_, row));
   if (list_.checkBoxes()) write(item, 0, Qt::CheckStateRole, row.Checked() ? Qt::Checked : Qt::Unchecked);
+  const int level = levelColumn(list_, row);
   for (int column = 1; column <= row.subItemCount() && column < tree_.columnCount(); ++column) {
-    const auto& header = list_.ColumnHeaders()[static_cast<std::size_t>(column)];
-    if (header.width <= 0) continue;  // nobody is to read it
-    const Qt::Alignment side = header.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
-    write(item, column, Qt::DisplayRole, toQt(row.SubItems(column)));
+    if (isHidden(list_, column)) continue;  // nobody is to read it
+    const bool right = list_.ColumnHeaders()[static_cast<std::size_t>(column)].rightAligned;
+    const Qt::Alignment side = right ? Qt::AlignRight : Qt::AlignLeft;
+    const QString text = toQt(row.SubItems(column));
+    write(item, column, Qt::DisplayRole, text);
+    write(item, column, Qt::AccessibleTextRole, spokenCell(text, column == level));
     write(item, column, Qt::ToolTipRole, tree_.headerItem()->toolTip(column));
     write(item, column, Qt::TextAlignmentRole, static_cast<int>(side | Qt::AlignVCenter));
     write(item, column, Qt::FontRole, cellFont(tree_, row.ListSubItems(column).Bold()));
