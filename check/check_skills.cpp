@@ -72,13 +72,15 @@ class SkillCheck {
   // A line taken from one side of a skill to the other moves it by one; so does the skill of another vehicle.
   static bool isConsequence(std::int32_t distance, const std::vector<Moved>& vehicles,
                             const std::map<std::int32_t, std::vector<Moved>>& moved) {
-    for (const auto& [other, cause] : moved)
+    for (const auto& [other, cause] : moved) {
+      const auto ends = std::minmax(cause.front().vehicle.skill, cause.front().now);
+      const auto isBetween = [&](const Moved& one) {
+        return ends.first < one.vehicle.skill && one.vehicle.skill < ends.second;
+      };
       if (distance == (other > 0 ? -1 : 1) && std::abs(other) > 1 && cause.size() == 1 &&
-          std::all_of(vehicles.begin(), vehicles.end(), [&](const auto& one) {
-            const auto [low, high] = std::minmax(cause.front().vehicle.skill, cause.front().now);
-            return low < one.vehicle.skill && one.vehicle.skill < high;
-          }))
+          std::all_of(vehicles.begin(), vehicles.end(), isBetween))
         return true;
+    }
     return false;
   }
 
