@@ -5,8 +5,10 @@
 #include <QBuffer>
 #include <QPainter>
 
+#include "canvas/grey_bitmap.h"
 #include "canvas/qt_text.h"
 #include "canvas/sheet_font.h"
+#include "canvas/sheet_glyphs.h"
 #include "surface/failure.h"
 
 namespace orvane {
@@ -23,38 +25,45 @@ QImage atSheetResolution(QImage picture) {
 
 }  // namespace
 
-QtCanvas::QtCanvas(const QImage& picture)
-    : image_(atSheetResolution(picture)), font_(sheetFont(10)), metrics_(font_, &image_) {}
+QtCanvas::QtCanvas(const QImage& picture) : image_(atSheetResolution(picture)), glyphs_(&SheetGlyphs::ofSize(10)) {}
 
 float QtCanvas::width() const { return static_cast<float>(image_.width()) * twipsPerPixel; }
 float QtCanvas::height() const { return static_cast<float>(image_.height()) * twipsPerPixel; }
 
-void QtCanvas::setFont(const std::string&, float points) {
-  font_ = sheetFont(points);
-  metrics_ = QFontMetricsF(font_, &image_);
-}
+void QtCanvas::setFont(const std::string&, float points) { glyphs_ = &SheetGlyphs::ofSize(points); }
 
 float QtCanvas::TextWidth(std::string_view text) const {
+  const QString shown = toQt(text);
+  if (const auto width = glyphs_->width(shown)) return static_cast<float>(*width) * twipsPerPixel;
   const SheetFontRules rules;
-  return static_cast<float>(metrics_.horizontalAdvance(toQt(text))) * twipsPerPixel;
+  return static_cast<float>(glyphs_->metrics().horizontalAdvance(shown)) * twipsPerPixel;
 }
 
 float QtCanvas::TextHeight(std::string_view) const {
-  const SheetFontRules rules;
-  return static_cast<float>(metrics_.height()) * twipsPerPixel;
+  return static_cast<float>(glyphs_->metrics().height()) * twipsPerPixel;
 }
 
 void QtCanvas::print(std::string_view text, float x, float y) {
   if (text.empty()) return;
+  const double baseline = static_cast<double>(y / twipsPerPixel) + glyphs_->metrics().ascent();
+  const QPoint start(static_cast<int>(std::round(x / twipsPerPixel)), static_cast<int>(std::round(baseline)));
+  const QString shown = toQt(text);
+  const bool isGrey = image_.format() == QImage::Format_Grayscale8;
+  if (!isGrey || !glyphs_->draw(shown, start, image_)) printByQt(shown, start);
+}
+
+// Other fonts have characters in colour.
+void QtCanvas::printByQt(const QString& text, QPoint start) {
+  image_.convertTo(QImage::Format_RGB32);
   const SheetFontRules rules;
   QPainter painter(&image_);
-  painter.setFont(font_);
+  painter.setFont(glyphs_->font());
   painter.setPen(Qt::black);
-  const double baseline = static_cast<double>(y / twipsPerPixel) + metrics_.ascent();
-  painter.drawText(QPointF(std::round(x / twipsPerPixel), std::round(baseline)), toQt(text));
+  painter.drawText(start, text);
 }
 
 std::string QtCanvas::bitmap() const {
+  if (image_.format() == QImage::Format_Grayscale8) return greyBitmap(image_);
   QByteArray bytes;
   QBuffer buffer(&bytes);
   if (!buffer.open(QIODevice::WriteOnly) || !image_.save(&buffer, "BMP"))

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QFont>
-#include <QFontMetricsF>
 #include <QImage>
 
 #include "surface/world.h"
 
 namespace orvane {
 
-// A picture. Its pixels are shared with the picture it was made from until it is printed on.
+class SheetGlyphs;
+
+// A picture. Its pixels are shared with the picture it was made from until it is printed on. They are grey, a byte
+// each, as long as neither that picture nor what was printed asks for more.
 class QtCanvas : public Canvas {
  public:
   explicit QtCanvas(const QImage& picture);
@@ -27,9 +28,10 @@ class QtCanvas : public Canvas {
   const QImage& image() const { return image_; }
 
  private:
+  void printByQt(const QString& text, QPoint start);
+
   QImage image_;
-  QFont font_;
-  QFontMetricsF metrics_;
+  SheetGlyphs* glyphs_;
 };
 
 }  // namespace orvane

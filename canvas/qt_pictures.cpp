@@ -19,7 +19,7 @@ QImage decoded(std::string_view name) {
   keepArtLinked();
   const QImage picture(QStringLiteral(":/art/%1.bmp").arg(toQt(name)));
   if (picture.isNull()) throw Failure("Il n'y a pas d'image \"" + std::string(name) + "\" dans le programme.");
-  return picture.convertToFormat(QImage::Format_RGB32);
+  return picture.convertToFormat(picture.allGray() ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
 }
 
 const QImage& stored(std::string_view name) {

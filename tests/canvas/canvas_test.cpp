@@ -5,6 +5,7 @@
 
 #include <QImage>
 
+#include "canvas/qt_canvas.h"
 #include "canvas/qt_pictures.h"
 #include "surface/failure.h"
 #include "tests/canvas/gui.h"
@@ -57,7 +58,8 @@ TEST(Bitmap, Has24BitsAt96DotsPerInch) {
                                                                           {38, 4, 3780},
                                                                           {42, 4, 3780}})
       EXPECT_EQ(number(bytes, offset, size), expected) << offset;
-    EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_RGB32), image(*sheet));
+    EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(bytes)).convertToFormat(QImage::Format_Grayscale8),
+              image(*sheet));
   }
 }
 
@@ -77,6 +79,36 @@ TEST(Measures, WordsAndBlanksAddUpToTheirLineInWholePixels) {
     EXPECT_EQ(sheet->TextHeight(""), sheet->TextHeight("Åg"));
     EXPECT_EQ(sheet->TextWidth(line + "   "), sum + 3 * sheet->TextWidth(" "));
   }
+}
+
+// Texts of each character that a sheet may get from western data, between others, and of some that Qt has to shape.
+std::vector<std::string> textsOfAllKinds() {
+  std::vector<std::string> texts = {"AVEC fi fl ffi « élève » d’un To.", "fi\tsoft\u00ADhyphen", "n\u0303 李 ẞ", "𝒪 ∑"};
+  const QString signs = "–—‘’‚“”„†‡•…‰‹›€™";
+  const int latin = 0x180;
+  for (int i = 0x20; i < latin + signs.size(); ++i) {
+    const QChar character = i < latin ? QChar(i) : signs[i - latin];
+    texts.push_back(QString("%1fA%1%1j").arg(character).toStdString());
+  }
+  return texts;
+}
+
+// A canvas in colour leaves all texts to Qt.
+TEST(Glyphs, MakeTheVeryBitmapsThatQtMakes) {
+  const QImage paper = image(*canvas());
+  ASSERT_EQ(paper.format(), QImage::Format_Grayscale8);
+  const QImage part = paper.copy(0, 0, 100, 100);
+  for (const float points : sizes)
+    for (const auto& text : textsOfAllKinds()) {
+      QtCanvas grey(part), colour(part.convertToFormat(QImage::Format_RGB32));
+      for (QtCanvas* each : {&grey, &colour}) {
+        each->setFont("", points);
+        for (const auto& [x, y] : {std::pair{150.F, 450.F}, {-60.F, -60.F}, {1400.F, 1400.F}, {-9000.F, 20000.F}})
+          each->print(text, x, y);
+      }
+      EXPECT_EQ(grey.TextWidth(text), colour.TextWidth(text)) << text;
+      EXPECT_EQ(grey.bitmap(), colour.bitmap()) << text << " at " << points;
+    }
 }
 
 }  // namespace
