@@ -70,7 +70,7 @@ class RandomRound {
       check();
       ++tally_.acts;
     }
-    User(run_.desktop()).close(*run_.mainWindow());
+    hand_.close(*run_.mainWindow());
     turn();
     require(run_.desktop().Forms().empty(), "all windows close");
     tally_.faults += files_.met();
@@ -79,11 +79,10 @@ class RandomRound {
 
  private:
   void openManyWindows() {
-    User opener(run_.desktop());
     auto& frame = *run_.mainWindow();
-    for (int i = 0; i < manyWindows; ++i) opener.click(frame.mnuFileNewPJ);
+    for (int i = 0; i < manyWindows; ++i) hand_.click(frame.mnuFileNewPJ);
     for (auto* arrange : {&frame.mnuWindowCascade, &frame.mnuWindowTileHorizontal, &frame.mnuWindowTileVertical})
-      opener.click(*arrange);
+      hand_.click(*arrange);
     check();
     tally_.windows += manyWindows;
   }
@@ -106,8 +105,9 @@ class RandomRound {
   RandomFaults files_;
   StampedPictures pictures_;
   Run run_{{dialogs_, clock_, settings_, files_, pictures_}};
-  Windows windows_{run_.desktop()};
-  test::RandomUser user_{run_.desktop(), static_cast<unsigned>(random_())};
+  User hand_{run_.desktop()};
+  Windows windows_{run_.desktop(), hand_};
+  test::RandomUser user_{hand_, run_.desktop(), static_cast<unsigned>(random_())};
 };
 
 }  // namespace

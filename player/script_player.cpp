@@ -9,7 +9,8 @@ ScriptPlayer::ScriptPlayer(std::ostream& out, std::ostream& err, PlayerParts par
     : transcript_(out),
       dialogs_(transcript_, err),
       clock_(parts.timeOfDay),
-      run_({parts.door ? parts.door->dialogs(dialogs_) : dialogs_, clock_, settings_, parts.files, parts.pictures}),
+      run_({parts.door ? parts.door->dialogs(dialogs_) : dialogs_, parts.door ? parts.door->clock(clock_) : clock_,
+            settings_, parts.files, parts.pictures}),
       user_(parts.door ? parts.door->user(run_) : std::make_unique<User>(run_.desktop())),
       stage_{run_.desktop(), *user_, transcript_, dialogs_, clock_},
       keepGoing_(keepGoing) {

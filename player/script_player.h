@@ -18,6 +18,8 @@ class Door {
   virtual ~Door() = default;
   // What shows the dialogs and boxes that the player's own are told of and answer.
   virtual Dialogs& dialogs(PlayerDialogs& player) = 0;
+  // The clock of the run.
+  virtual Clock& clock(Clock& player) { return player; }
   // Who does the acts; ends before the run. Called once, before its start.
   virtual std::unique_ptr<User> user(Run& run) = 0;
 };

@@ -99,6 +99,8 @@ void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 
 void ChildWindow::takeKeyboard() {
   QWidget* taker = focusWidget();
+  if (auto* focused = taker || !form().focused() ? nullptr : view_->viewOf(*form().focused()))
+    taker = &focused->focusWidget();
   if (!taker) taker = tabStopBehind(*pane_, *pane_);
   (taker ? taker : this)->setFocus(Qt::OtherFocusReason);
 }

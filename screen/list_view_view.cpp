@@ -303,10 +303,7 @@ void ListViewView::beginEdit() {
   if (edited_) return;
   bool allowed = false;
   // The second click of a slow pair counts later, when another tab or a dialog may have come up.
-  act([&](User& user) {
-    user.requireReachable(list_);
-    allowed = list_.beginEdit();
-  });
+  act([&](User& user) { allowed = user.beginEdit(list_); });
   if (!allowed || isDetached()) return;
   edited_ = list_.SelectedItem();
   auto* row = tree_.topLevelItem(edited_->Index() - 1);
@@ -322,7 +319,7 @@ void ListViewView::beginEdit() {
 
 void ListViewView::endEdit(const QString& text) {
   form().door().keepEditOpen({});
-  if (auto row = std::exchange(edited_, nullptr)) act([&](User&) { list_.endEdit(row, fromQt(text)); });
+  if (auto row = std::exchange(edited_, nullptr)) act([&](User& user) { user.endEdit(list_, row, fromQt(text)); });
 }
 
 void ListViewView::editClosed() {

@@ -12,6 +12,8 @@ namespace orvane {
 class MainWindow final : public QMainWindow {
  public:
   MainWindow(frmMain& frame, ScreenDoor& door);
+
+  frmMain& frame() const { return frame_; }
   ~MainWindow() override;
 
   WorkArea& area() { return area_; }

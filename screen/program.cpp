@@ -29,17 +29,22 @@ void speakFrench() {
 
 }  // namespace
 
-int runProgram() {
+void prepareDesktop() {
   speakFrench();
   dressUp();
   QApplication::setQuitOnLastWindowClosed(false);
+}
+
+int runProgram() {
+  prepareDesktop();
   ScreenDialogs dialogs;
   SystemClock clock;
   QtSettings settings;
   DiskFiles files;
   QtPictures pictures;
   Run run({dialogs, clock, settings, files, pictures});
-  Windows windows(run.desktop());
+  User user(run.desktop());
+  Windows windows(run.desktop(), user);
   windows.closed = [] { QCoreApplication::quit(); };
   dialogs.setWindows(windows);
   const EndRequests endRequests(windows);

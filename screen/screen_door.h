@@ -13,7 +13,8 @@ using Deed = std::function<void(User&)>;
 // none at all, whatever timers of widgets report.
 class ScreenDoor {
  public:
-  explicit ScreenDoor(Desktop& desktop) : desktop_(desktop), user_(desktop) {}
+  // The user outlives the door.
+  ScreenDoor(Desktop& desktop, User& user) : desktop_(desktop), user_(user) {}
 
   // False when the act was refused. Nothing is ever thrown.
   bool act(const Deed& deed);
@@ -26,7 +27,7 @@ class ScreenDoor {
 
  private:
   Desktop& desktop_;
-  User user_;
+  User& user_;
   std::function<void()> endEdit_;
   int suspended_ = 0;
 };

@@ -21,7 +21,7 @@ Window* windowOf(const std::vector<Window*>& windows, const Form& form) {
 
 }  // namespace
 
-Windows::Windows(Desktop& desktop) : desktop_(desktop), door_(desktop) { desktop_.watch(*this); }
+Windows::Windows(Desktop& desktop, User& user) : desktop_(desktop), door_(desktop, user) { desktop_.watch(*this); }
 
 Windows::~Windows() {
   desktop_.unwatch(*this);
@@ -159,6 +159,23 @@ void Windows::activatedByUser(QMdiSubWindow* window) {
   if (following_ || !child || desktop_.activeChild() == &child->form()) return;
   const bool done = door_.act([&](User& user) { user.activate(child->form()); });
   if (!done && desktop_.activeChild()) activated(*desktop_.activeChild());
+}
+
+void Windows::lookAway() {
+  door_.suspend();
+  desktop_.unwatch(*this);
+}
+
+void Windows::catchUp() {
+  desktop_.watch(*this);
+  door_.resume();
+  const auto& forms = desktop_.Forms();
+  const bool frameIsOpen = std::any_of(forms.begin(), forms.end(),
+                                       [this](const auto& form) { return main_ && form.get() == &main_->frame(); });
+  if (main_ && !frameIsOpen) return unloaded(main_->frame());
+  for (const auto& form : forms)
+    if (form->role() != Form::Role::Frame && form->isVisible() && form.get() != desktop_.modal()) shown(*form);
+  if (auto* active = desktop_.activeChild()) activated(*active);
 }
 
 void Windows::captionChanged(Form& form) {

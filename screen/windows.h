@@ -17,7 +17,8 @@ namespace orvane {
 // The windows of all forms that are shown.
 class Windows final : public DesktopObserver {
  public:
-  explicit Windows(Desktop& desktop);
+  // Acts are those of the user, who outlives them.
+  Windows(Desktop& desktop, User& user);
   ~Windows() override;
 
   ScreenDoor& door() { return door_; }
@@ -27,6 +28,9 @@ class Windows final : public DesktopObserver {
   DialogWindow* dialogOf(const Form& form) const;
   // Shows a form and blocks until it is unloaded.
   void runModal(Form& form);
+  // Lets forms come and go unseen; after that, shows those that are open.
+  void lookAway();
+  void catchUp();
   // Run once the main window has closed.
   std::function<void()> closed;
 

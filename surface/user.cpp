@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "surface/list_view.h"
+
 namespace orvane {
 
 void User::requireOpen(const Form& form) const {
@@ -49,6 +51,15 @@ void User::toggle(Control& control, const Entry& row) { act(control, requireReac
 
 void User::edit(Control& control, const Entry& row, std::string text) {
   act(control, requireReachable(control).prepareEdit(row, std::move(text)));
+}
+
+bool User::beginEdit(ListView& list) {
+  requireReachable(list);
+  return list.beginEdit();
+}
+
+void User::endEdit(ListView& list, const ListItemRef& row, std::string text) {
+  desktop_.perform([&] { list.endEdit(row, std::move(text)); });
 }
 
 void User::scroll(Control& control, int value) { act(control, requireReachable(control).prepareScroll(value)); }

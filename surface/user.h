@@ -3,6 +3,7 @@
 #include <string>
 
 #include "surface/desktop.h"
+#include "surface/list_item.h"
 
 namespace orvane {
 
@@ -22,6 +23,10 @@ class User {
   virtual void row(Control& control, const Entry& row);
   virtual void toggle(Control& control, const Entry& row);
   virtual void edit(Control& control, const Entry& row, std::string text);
+  // The same in two steps, for an editor that stays open for a while: first with the selected row, after a click on it;
+  // false where its name may not be edited.
+  bool beginEdit(ListView& list);
+  virtual void endEdit(ListView& list, const ListItemRef& row, std::string text);
   virtual void scroll(Control& control, int value);
   virtual void focus(Control& control);
 

@@ -144,8 +144,8 @@ class Tour {
   DiskFiles files_;
   QtPictures pictures_;
   Run run_{{dialogs_, clock_, settings_, files_, pictures_}};
-  Windows windows_{run_.desktop()};
   User user_{run_.desktop()};
+  Windows windows_{run_.desktop(), user_};
   Stage stage_{run_.desktop(), user_, transcript_, dialogs_, clock_};
   Script script_;
   std::size_t next_ = 0;

@@ -41,7 +41,8 @@ Played play(const MemoryFiles& game, unsigned seed, int acts) {
   auto& dialogs = world.dialogs;
   Run run(world.world());
   run.Main();
-  RandomUser user(run.desktop(), seed);
+  User hand(run.desktop());
+  RandomUser user(hand, run.desktop(), seed);
   dialogs.user = &user;
   Played played;
   for (; played.acts < acts; ++played.acts) {

@@ -11,8 +11,9 @@ namespace orvane::test {
 // A user who does something at random at whatever window asks for it. The same seed does the same.
 class RandomUser {
  public:
-  RandomUser(Desktop& desktop, unsigned seed)
-      : user_(desktop), desktop_(desktop), random_(seed), spender_(seed % 2 == 1) {}
+  // All acts are those of the user.
+  RandomUser(User& user, Desktop& desktop, unsigned seed)
+      : user_(user), desktop_(desktop), random_(seed), spender_(seed % 2 == 1) {}
 
   // One act at the active window, or at the frame where none is open.
   void act(Form& frame);
@@ -30,7 +31,7 @@ class RandomUser {
   void openOrSwitchWindow(Form& frame);
   std::string text();
 
-  User user_;
+  User& user_;
   Desktop& desktop_;
   std::mt19937 random_;
   // Every other user seldom steps back, and so empties pools.

@@ -69,7 +69,7 @@ class DesktopFixture : public TestRun<ScreenDialogs, QtPictures> {
     });
   }
 
-  Windows windows{run.desktop()};
+  Windows windows{run.desktop(), user};
 };
 
 }  // namespace orvane::test

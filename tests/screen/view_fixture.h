@@ -60,7 +60,8 @@ class ViewFixture : public ::testing::Test, protected TestWorld<> {
 
   std::string log;
   Desktop desktop{world()};
-  ScreenDoor door{desktop};
+  User user{desktop};
+  ScreenDoor door{desktop, user};
   std::shared_ptr<Sample> form = std::make_shared<Sample>(desktop, log);
   QWidget window;
   std::unique_ptr<FormView> view;

@@ -44,7 +44,8 @@ int position(ListView& list, const Entry& row) {
 // refused must be out of reach on the screen too.
 class WidgetUser final : public User {
  public:
-  WidgetUser(Desktop& desktop, ScreenDialogs& dialogs);
+  // The screen acts by the hand.
+  WidgetUser(Desktop& desktop, ScreenDialogs& dialogs, std::unique_ptr<User> hand);
   ~WidgetUser() override;
 
   void click(Control& control) override;
@@ -73,10 +74,12 @@ class WidgetUser final : public User {
   Widget& widget(Control& control);
 
   Desktop& desktop_;
+  std::unique_ptr<User> hand_;
   Windows windows_;
 };
 
-WidgetUser::WidgetUser(Desktop& desktop, ScreenDialogs& dialogs) : User(desktop), desktop_(desktop), windows_(desktop) {
+WidgetUser::WidgetUser(Desktop& desktop, ScreenDialogs& dialogs, std::unique_ptr<User> hand)
+    : User(desktop), desktop_(desktop), hand_(std::move(hand)), windows_(desktop, *hand_) {
   dialogs.setWindows(windows_);
 }
 
@@ -149,7 +152,7 @@ void WidgetUser::type(Control& control, std::string text) {
   auto* combo = qobject_cast<QComboBox*>(&shown);
   // On a line of the screen nobody types control characters.
   if (!qobject_cast<QPlainTextEdit*>(&shown) && shownLines(text).contains(QRegularExpression("\\p{Cc}")))
-    User::type(control, text);
+    hand_->type(control, text);
   else
     replaceText(combo ? *combo->lineEdit() : shown, shownLines(text));
   look();
@@ -206,7 +209,7 @@ void WidgetUser::scroll(Control& control, int value) {
 
 void WidgetUser::focus(Control& control) {
   check(control);
-  if (!control.takesFocus()) return User::focus(control);
+  if (!control.takesFocus()) return hand_->focus(control);
   auto* tabs = dynamic_cast<TabControl*>(&control);
   QWidget& shown = tabs ? *widget<QTabWidget>(control).tabBar() : widget<QWidget>(control);
   // A window gives the keyboard to its first widget without telling the form; here the user comes to it.
@@ -218,7 +221,7 @@ void WidgetUser::focus(Control& control) {
 
 void WidgetUser::activate(Form& form) {
   requireOpen(form);
-  if (form.role() != Form::Role::Child) return User::activate(form);
+  if (form.role() != Form::Role::Child) return hand_->activate(form);
   settle(form);
   windows_.mainWindow()->area().setActiveSubWindow(windows_.childOf(form));
   look();
@@ -304,8 +307,10 @@ Dialogs& WidgetDoor::dialogs(PlayerDialogs& player) {
   return *parts_->dialogs;
 }
 
+std::unique_ptr<User> WidgetDoor::hand(Run& run) { return std::make_unique<User>(run.desktop()); }
+
 std::unique_ptr<User> WidgetDoor::user(Run& run) {
-  auto user = std::make_unique<WidgetUser>(run.desktop(), parts_->dialogs->screen);
+  auto user = std::make_unique<WidgetUser>(run.desktop(), parts_->dialogs->screen, hand(run));
   parts_->dialogs->user = user.get();
   return user;
 }

@@ -17,6 +17,10 @@ class WidgetDoor : public Door {
   Dialogs& dialogs(PlayerDialogs& player) override;
   std::unique_ptr<User> user(Run& run) override;
 
+ protected:
+  // Whose acts the widgets turn mouse and keys into.
+  virtual std::unique_ptr<User> hand(Run& run);
+
  private:
   struct Parts;
   std::unique_ptr<Parts> parts_;

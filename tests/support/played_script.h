@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <iterator>
 #include <map>
 #include <set>
@@ -44,7 +45,10 @@ inline std::vector<GoldenScript> goldenScripts() {
 // the current one as long as this lives; with the real pictures, at midday.
 class PlayedScript {
  public:
-  explicit PlayedScript(const GoldenScript& script, Door* door = nullptr) : script_(script) {
+  using Player = std::function<decltype(playScripts)>;
+
+  explicit PlayedScript(const GoldenScript& script, Door* door = nullptr, const Player& player = playScripts)
+      : script_(script) {
     namespace fs = std::filesystem;
     fs::current_path(folder_.path());
     for (const auto& entry : fs::directory_iterator(script.data))
@@ -54,7 +58,7 @@ class PlayedScript {
     QtPictures pictures;
     FakeClock midday;
     std::istringstream in;
-    status_ = playScripts(arguments(), in, out_, errors_, {files, pictures, midday, door});
+    status_ = player(arguments(), in, out_, errors_, {files, pictures, midday, door});
   }
   ~PlayedScript() { std::filesystem::current_path(former_); }
   PlayedScript(const PlayedScript&) = delete;

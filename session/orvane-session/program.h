@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace orvane {
+
+// The desktop on the session in that file, in the current directory, for as long as the user goes on. Needs a
+// QApplication; gives the exit status: 0, 1 where it could not start, 2 where the file cannot be read or played.
+int runSession(const std::string& path);
+
+}  // namespace orvane
