@@ -17,9 +17,11 @@ namespace {
 using orvane::Failure;
 
 constexpr std::string_view help =
-    "usage : orvane-launch\n"
+    "usage : orvane-launch [--session]\n"
     "Démarre Orvane dans le dossier « Orvane » de vos documents, où il place d'abord ce qui y manque des données du\n"
     "jeu ; les personnages s'y gardent dans « Perso ». Ce que vous y avez changé n'est jamais remplacé.\n\n"
+    "  --session   continue la session « session.script » de ce dossier, ou en commence une : tout ce que vous y faites\n"
+    "              est gardé au fur et à mesure\n"
     "  --help      cette aide\n"
     "  --version   la version\n";
 
@@ -33,22 +35,21 @@ void tell(QMessageBox::Icon icon, const std::string& text, int argc, char** argv
 
 std::filesystem::path ownFolder() { return std::filesystem::read_symlink("/proc/self/exe").parent_path(); }
 
-// Only returns where it fails.
-[[noreturn]] void start(const std::string& folder) {
+[[noreturn]] void start(const std::string& folder, bool withMemory) {
   if (chdir(folder.c_str()) != 0)
     throw Failure("Impossible d'aller dans " + folder + " (" + orvane::systemReason(errno) + ").");
-  const std::string program = ownFolder() / "orvane";
-  execl(program.c_str(), program.c_str(), nullptr);
+  const std::string program = ownFolder() / (withMemory ? "orvane-session" : "orvane");
+  execl(program.c_str(), program.c_str(), withMemory ? "session.script" : nullptr, nullptr);
   throw Failure("Impossible de démarrer " + program + " (" + orvane::systemReason(errno) + ").");
 }
 
-int launch(int argc, char** argv) {
+int launch(int argc, char** argv, bool withMemory) {
   const std::string installed = (ownFolder() / ORVANE_GAME_FOLDER).lexically_normal();
   const std::string folder = orvane::workFolder();
   orvane::DiskFiles files;
   const std::string words = orvane::wordsOn(orvane::deliver(files, installed, folder), installed, folder);
   if (!words.empty()) tell(QMessageBox::Information, words, argc, argv);
-  start(folder);
+  start(folder, withMemory);
 }
 
 }  // namespace
@@ -60,8 +61,9 @@ int main(int argc, char** argv) {
     return 0;
   }
   try {
-    if (!argument.empty()) throw Failure("Argument inconnu : " + argument);
-    return launch(argc, argv);
+    const bool withMemory = argument == "--session";
+    if (!withMemory && !argument.empty()) throw Failure("Argument inconnu : " + argument);
+    return launch(argc, argv, withMemory);
   } catch (const std::exception& error) {
     tell(QMessageBox::Critical, orvane::sentenceOn(error), argc, argv);
     return 1;

@@ -4,6 +4,8 @@ _orvane() {
   case $1 in
     *orvane-batch) options+=" --keep-going --with --jobs" ;;
     *orvane-check) options+=" --format --sheet" ;;
+    *orvane-launch) options+=" --session" ;;
+    *orvane-session) options+=" --shorten" ;;
   esac
   if [[ $1 == *orvane-launch ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
@@ -16,4 +18,4 @@ _orvane() {
     mapfile -t COMPREPLY < <(if [[ $1 == *-check ]]; then compgen -d -- "$word"; else compgen -f -- "$word"; fi)
   fi
 }
-complete -F _orvane orvane-batch orvane-check orvane-launch
+complete -F _orvane orvane-batch orvane-check orvane-launch orvane-session

@@ -99,10 +99,13 @@ void ChildWindow::showCaption() { setWindowTitle(toQt(form().Caption())); }
 
 void ChildWindow::takeKeyboard() {
   QWidget* taker = focusWidget();
-  if (auto* focused = taker || !form().focused() ? nullptr : view_->viewOf(*form().focused()))
-    taker = &focused->focusWidget();
   if (!taker) taker = tabStopBehind(*pane_, *pane_);
   (taker ? taker : this)->setFocus(Qt::OtherFocusReason);
+}
+
+void ChildWindow::giveKeyboardToFocus() {
+  if (auto* focused = form().focused() ? view_->viewOf(*form().focused()) : nullptr)
+    focused->focusWidget().setFocus(Qt::OtherFocusReason);
 }
 
 void ChildWindow::end() {

@@ -20,8 +20,10 @@ class ChildWindow final : public QMdiSubWindow {
   // After that, at that corner of the room, with as much of the contents as there is room for.
   void openAt(const QPoint& corner, const QSize& room);
   void showCaption();
-  // Gives the keyboard to the widget that had it last, else to the control with the focus, else to the first one.
+  // Gives the keyboard to the widget that had it last, else to the first one.
   void takeKeyboard();
+  // Gives it to the control that has the focus on the form, where there is one.
+  void giveKeyboardToFocus();
   // The form has ended; the window goes away at the next turn of the event loop.
   void end();
 

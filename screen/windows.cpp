@@ -175,7 +175,10 @@ void Windows::catchUp() {
   if (main_ && !frameIsOpen) return unloaded(main_->frame());
   for (const auto& form : forms)
     if (form->role() != Form::Role::Frame && form->isVisible() && form.get() != desktop_.modal()) shown(*form);
-  if (auto* active = desktop_.activeChild()) activated(*active);
+  if (auto* active = desktop_.activeChild()) {
+    activated(*active);
+    childOf(*active)->giveKeyboardToFocus();
+  }
 }
 
 void Windows::captionChanged(Form& form) {
