@@ -20,7 +20,8 @@ constexpr std::string_view help =
     "usage : orvane-launch [--session]\n"
     "Démarre Orvane dans le dossier « Orvane » de vos documents, où il place d'abord ce qui y manque des données du\n"
     "jeu ; les personnages s'y gardent dans « Perso ». Ce que vous y avez changé n'est jamais remplacé.\n\n"
-    "  --session   continue la session « session.script » de ce dossier, ou en commence une : tout ce que vous y faites\n"
+    "  --session   continue la session « session.script » de ce dossier, ou en commence une : tout ce que vous y "
+    "faites\n"
     "              est gardé au fur et à mesure\n"
     "  --help      cette aide\n"
     "  --version   la version\n";

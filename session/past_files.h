@@ -34,9 +34,7 @@ class PastFiles final : public Files {
   void replace(const std::string& from, const std::string& to) override {
     isPast_ ? void(written_.erase(from)) : files_.replace(from, to);
   }
-  void Kill(const std::string& path) override {
-    isPast_ ? void(written_.erase(path)) : files_.Kill(path);
-  }
+  void Kill(const std::string& path) override { isPast_ ? void(written_.erase(path)) : files_.Kill(path); }
   void sync(const std::string& directory) override {
     if (!isPast_) files_.sync(directory);
   }
