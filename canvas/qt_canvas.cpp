@@ -33,10 +33,9 @@ float QtCanvas::height() const { return static_cast<float>(image_.height()) * tw
 void QtCanvas::setFont(const std::string&, float points) { glyphs_ = &SheetGlyphs::ofSize(points); }
 
 float QtCanvas::TextWidth(std::string_view text) const {
-  const QString shown = toQt(text);
-  if (const auto width = glyphs_->width(shown)) return static_cast<float>(*width) * twipsPerPixel;
+  if (const auto width = glyphs_->width(text)) return static_cast<float>(*width) * twipsPerPixel;
   const SheetFontRules rules;
-  return static_cast<float>(glyphs_->metrics().horizontalAdvance(shown)) * twipsPerPixel;
+  return static_cast<float>(glyphs_->metrics().horizontalAdvance(toQt(text))) * twipsPerPixel;
 }
 
 float QtCanvas::TextHeight(std::string_view) const {
@@ -47,9 +46,8 @@ void QtCanvas::print(std::string_view text, float x, float y) {
   if (text.empty()) return;
   const double baseline = static_cast<double>(y / twipsPerPixel) + glyphs_->metrics().ascent();
   const QPoint start(static_cast<int>(std::round(x / twipsPerPixel)), static_cast<int>(std::round(baseline)));
-  const QString shown = toQt(text);
   const bool isGrey = image_.format() == QImage::Format_Grayscale8;
-  if (!isGrey || !glyphs_->draw(shown, start, image_)) printByQt(shown, start);
+  if (!isGrey || !glyphs_->draw(text, start, image_)) printByQt(toQt(text), start);
 }
 
 // Other fonts have characters in colour.

@@ -30,12 +30,33 @@ std::optional<std::size_t> placeOf(char16_t character) {
   return endOfLatin + found;
 }
 
-// The part of a mask that is not white.
-QRect inkOf(const QImage& mask) {
+// The first character of a text that is not empty, taken off it: of those of two or three bytes only what starts like
+// one in the table, else 0.
+char16_t takeCharacter(std::string_view& text) {
+  const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+  const auto continues = [&](std::size_t i) { return (byte(i) & 0xC0U) == 0x80; };
+  unsigned character = 0;
+  std::size_t size = 1;
+  if (byte(0) < 0x80) {
+    character = byte(0);
+  } else if (byte(0) >= 0xC2 && byte(0) < 0xE0 && continues(1)) {
+    character = (byte(0) & 0x1FU) << 6 | (byte(1) & 0x3FU);
+    size = 2;
+  } else if (byte(0) == 0xE2 && continues(1) && continues(2)) {
+    character = 0x2000U | (byte(1) & 0x3FU) << 6 | (byte(2) & 0x3FU);
+    size = 3;
+  }
+  text.remove_prefix(size);
+  return static_cast<char16_t>(character);
+}
+
+bool isInk(QRgb pixel) { return qGray(pixel) != 255; }
+
+QRect inkOf(const QImage& picture) {
   QRect ink;
-  for (int y = 0; y < mask.height(); ++y)
-    for (int x = 0; x < mask.width(); ++x)
-      if (mask.constScanLine(y)[x] != 255) ink |= QRect(x, y, 1, 1);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (isInk(picture.pixel(x, y))) ink |= QRect(x, y, 1, 1);
   return ink;
 }
 
@@ -43,15 +64,6 @@ QRect inkOf(const QImage& mask) {
 uchar shaded(uchar light, uchar left) {
   const int product = light * left;
   return static_cast<uchar>((product + (product >> 8) + 128) >> 8);
-}
-
-void shade(QImage& picture, const QImage& mask, QPoint corner) {
-  const QRect place = QRect(corner, mask.size()) & picture.rect();
-  for (int y = place.top(); y <= place.bottom(); ++y) {
-    uchar* row = picture.scanLine(y);
-    const uchar* left = mask.constScanLine(y - corner.y()) - corner.x();
-    for (int x = place.left(); x <= place.right(); ++x) row[x] = shaded(row[x], left[x]);
-  }
 }
 
 }  // namespace
@@ -67,47 +79,60 @@ SheetGlyphs& SheetGlyphs::ofSize(float points) {
 SheetGlyphs::SheetGlyphs(float points)
     : font_(sheetFont(points)), metrics_(font_), glyphs_(endOfLatin + signs.size()) {}
 
-std::optional<int> SheetGlyphs::width(const QString& text) {
+std::optional<int> SheetGlyphs::width(std::string_view text) {
   int width = 0;
-  for (const QChar character : text) {
-    const Glyph* found = glyph(character);
-    if (!found) return std::nullopt;
-    width += found->width;
+  while (!text.empty()) {
+    const Glyph* glyph = take(text);
+    if (!glyph) return std::nullopt;
+    width += glyph->width;
   }
   return width;
 }
 
-bool SheetGlyphs::draw(const QString& text, QPoint start, QImage& picture) {
+bool SheetGlyphs::draw(std::string_view text, QPoint start, QImage& picture) {
   if (!width(text)) return false;
-  for (const QChar character : text) {
-    const Glyph& drawn = *glyph(character);
-    shade(picture, drawn.mask, start + drawn.corner);
-    start.rx() += drawn.width;
+  while (!text.empty()) {
+    const Glyph& glyph = *take(text);
+    draw(glyph, start, picture);
+    start.rx() += glyph.width;
   }
   return true;
 }
 
-const SheetGlyphs::Glyph* SheetGlyphs::glyph(QChar character) {
-  const auto place = placeOf(character.unicode());
-  if (!place) return nullptr;
-  auto& known = glyphs_[*place];
-  if (!known) known = drawn(character);
-  return &*known;
+void SheetGlyphs::draw(const Glyph& glyph, QPoint start, QImage& picture) {
+  const QRect place = glyph.place.translated(start);
+  const QRect seen = place & picture.rect();
+  if (seen.isEmpty()) return;
+  uchar* row = picture.bits() + seen.top() * picture.bytesPerLine();
+  const uchar* mask = glyph.mask.data() + (seen.top() - place.top()) * place.width() - place.left();
+  for (int y = seen.top(); y <= seen.bottom(); ++y, row += picture.bytesPerLine(), mask += place.width())
+    for (int x = seen.left(); x <= seen.right(); ++x) row[x] = shaded(row[x], mask[x]);
 }
 
-SheetGlyphs::Glyph SheetGlyphs::drawn(QChar character) const {
+const SheetGlyphs::Glyph* SheetGlyphs::take(std::string_view& text) {
+  const char16_t character = takeCharacter(text);
+  const auto place = placeOf(character);
+  if (!place) return nullptr;
+  auto& glyph = glyphs_[*place];
+  if (!glyph) glyph = made(character);
+  return &*glyph;
+}
+
+SheetGlyphs::Glyph SheetGlyphs::made(char16_t character) const {
   const SheetFontRules rules;
-  const int margin = 2 * font_.pixelSize();
-  QImage around(3 * margin, 2 * margin, QImage::Format_RGB32);
-  around.fill(Qt::white);
-  QPainter painter(&around);
+  const QPoint start(2 * font_.pixelSize(), 2 * font_.pixelSize());
+  QImage picture(3 * start.x(), 2 * start.y(), QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
   painter.setFont(font_);
-  painter.drawText(QPoint(margin, margin), character);
+  painter.drawText(start, QChar(character));
   painter.end();
-  const QImage mask = around.convertToFormat(QImage::Format_Grayscale8);
-  const QRect ink = inkOf(mask);
-  return {static_cast<int>(metrics_.horizontalAdvance(character)), ink.topLeft() - QPoint(margin, margin),
-          mask.copy(ink)};
+  const QRect ink = inkOf(picture);
+  Glyph glyph{static_cast<int>(metrics_.horizontalAdvance(QChar(character))), ink.translated(-start), {}};
+  for (int y = ink.top(); y <= ink.bottom(); ++y)
+    for (int x = ink.left(); x <= ink.right(); ++x)
+      glyph.mask.push_back(static_cast<std::uint8_t>(qGray(picture.pixel(x, y))));
+  return glyph;
 }
 
 }  // namespace orvane

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
-#include <QString>
 
 namespace orvane {
 
@@ -22,22 +23,23 @@ class SheetGlyphs {
   const QFontMetricsF& metrics() const { return metrics_; }
 
   // In pixels; nothing for a text that has to be left to Qt.
-  std::optional<int> width(const QString& text);
+  std::optional<int> width(std::string_view text);
   // Draws black on a grey picture, from a point on the base line. False, and nothing drawn, for a text that has to be
   // left to Qt.
-  bool draw(const QString& text, QPoint start, QImage& picture);
+  bool draw(std::string_view text, QPoint start, QImage& picture);
 
  private:
   struct Glyph {
     int width = 0;
-    QPoint corner;  // of its mask, seen from its start on the base line
-    QImage mask;    // how much it leaves of what it is drawn on, of 255
+    QRect place;                     // of its ink, seen from its start on the base line
+    std::vector<std::uint8_t> mask;  // there, row by row: how much it leaves of what it is drawn on, of 255
   };
+  static void draw(const Glyph& glyph, QPoint start, QImage& picture);
 
   explicit SheetGlyphs(float points);
-  // Null for a character that has to be left to Qt.
-  const Glyph* glyph(QChar character);
-  Glyph drawn(QChar character) const;
+  // The next character of a text, which is taken off it. Null where it has to be left to Qt.
+  const Glyph* take(std::string_view& text);
+  Glyph made(char16_t character) const;
 
   QFont font_;
   QFontMetricsF metrics_;

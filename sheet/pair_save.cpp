@@ -11,7 +11,7 @@ namespace {
 
 void writeFresh(Files& files, const SavedSide& side, const std::string& bytes) {
   files.write(side.fresh, bytes);
-  if (files.read(side.fresh) != bytes) throw Failure("Le fichier " + side.fresh + " se relit autrement qu'écrit.");
+  if (!files.holds(side.fresh, bytes)) throw Failure("Le fichier " + side.fresh + " se relit autrement qu'écrit.");
 }
 
 void keepFormer(Files& files, const SavedSide& side) {

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <sys/file.h>
 #include <thread>
 
@@ -43,6 +44,20 @@ void requireReadable(const OpenFile& file, const std::string& path) {
   if (isDirectory(found)) fail("Lecture impossible", path, EISDIR);
   if (!S_ISREG(found.st_mode)) fail("Lecture impossible", path, "ce n'est pas un fichier ordinaire");
   if (found.st_size > static_cast<off_t>(largestFile)) fail("Lecture impossible", path, std::string(tooLargeFile));
+}
+
+// False where a part was not taken; that ends the reading.
+bool readParts(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  OpenFile file(path, O_RDONLY);
+  if (!file.isOpen()) fail("Lecture impossible", path);
+  requireReadable(file, path);
+  std::array<char, 65536> buffer;
+  while (true) {
+    const ssize_t count = file.read(buffer);
+    if (count < 0) fail("Lecture impossible", path);
+    if (count == 0) return true;
+    if (!take({buffer.data(), static_cast<std::size_t>(count)})) return false;
+  }
 }
 
 // Not where it is gone by now.
@@ -91,18 +106,22 @@ bool DiskFiles::directoryExists(const std::string& path) {
 }
 
 std::string DiskFiles::read(const std::string& path) {
-  OpenFile file(path, O_RDONLY);
-  if (!file.isOpen()) fail("Lecture impossible", path);
-  requireReadable(file, path);
   std::string bytes;
-  std::array<char, 65536> buffer;
-  while (true) {
-    const ssize_t count = file.read(buffer);
-    if (count < 0) fail("Lecture impossible", path);
-    if (count == 0) return bytes;
-    bytes.append(buffer.data(), static_cast<std::size_t>(count));
+  readParts(path, [&](std::string_view part) {
+    bytes += part;
     if (bytes.size() > largestFile) fail("Lecture impossible", path, std::string(tooLargeFile));
-  }
+    return true;
+  });
+  return bytes;
+}
+
+bool DiskFiles::holds(const std::string& path, std::string_view bytes) {
+  const bool alike = readParts(path, [&](std::string_view part) {
+    if (!bytes.starts_with(part)) return false;
+    bytes.remove_prefix(part.size());
+    return true;
+  });
+  return alike && bytes.empty();
 }
 
 std::vector<FolderEntry> DiskFiles::list(const std::string& path) {

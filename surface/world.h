@@ -89,6 +89,8 @@ class Files {
   virtual bool directoryExists(const std::string& path) = 0;
   // Reads a regular file of at most largestFile bytes.
   virtual std::string read(const std::string& path) = 0;
+  // Whether a file that can be read holds just these bytes.
+  virtual bool holds(const std::string& path, std::string_view bytes) { return read(path) == bytes; }
   // All that a directory holds.
   virtual std::vector<FolderEntry> list(const std::string& path) = 0;
   // False where the name is taken.

@@ -29,6 +29,10 @@ class FaultyFiles : public DiskFiles {
     next();
     return DiskFiles::read(path);
   }
+  bool holds(const std::string& path, std::string_view bytes) override {
+    next();
+    return DiskFiles::holds(path, bytes);
+  }
   std::vector<FolderEntry> list(const std::string& path) override {
     next();
     return DiskFiles::list(path);
