@@ -177,7 +177,8 @@ void Windows::catchUp() {
     if (form->role() != Form::Role::Frame && form->isVisible() && form.get() != desktop_.modal()) shown(*form);
   if (auto* active = desktop_.activeChild()) {
     activated(*active);
-    childOf(*active)->giveKeyboardToFocus();
+    // Once Qt has given it to the windows as they came up.
+    QTimer::singleShot(0, childOf(*active), [window = childOf(*active)] { window->giveKeyboardToFocus(); });
   }
 }
 

@@ -1,6 +1,8 @@
 #include "session/orvane-session/evening.h"
 
+#include <QCoreApplication>
 #include <QStringList>
+#include <QTimer>
 
 #include "canvas/qt_text.h"
 #include "session/data_marks.h"
@@ -12,6 +14,10 @@
 
 namespace orvane {
 namespace {
+
+// The user wants to leave rather than go on from where the past can be played no further. Through handlers that catch
+// what they take for a failure.
+struct Leaving {};
 
 std::string headOfSession(Files& files) {
   return "# Session d'Orvane " + App::version() +
@@ -49,7 +55,19 @@ void Evening::begin() {
   if (file_.text().empty()) file_.append(kept_ = headOfSession(files_));
   tellChangedData();
   session_.run().desktop().perform([this] { session_.run().Main(); });
-  if (isOpen()) playPast();
+  if (!isOpen()) return;
+  windows_.lookAway();
+  // How large it shows the frame, the desktop says later.
+  constexpr int untilPlaced = 150;  // milliseconds
+  QTimer::singleShot(untilPlaced, windows_.mainWindow(), [this] { takeUp(); });
+}
+
+void Evening::takeUp() {
+  try {
+    playPast();
+  } catch (const Leaving&) {
+    QCoreApplication::quit();
+  }
 }
 
 void Evening::tellChangedData() {
@@ -70,7 +88,6 @@ void Evening::playPast() {
   session_.progress = [this](std::size_t played) {
     if (progress_ && played % between == 0) progress_->setValue(static_cast<int>(played));
   };
-  windows_.lookAway();
   session_.playPast(past_);
 }
 
@@ -81,7 +98,7 @@ void Evening::tellRefused(const Act& act, const std::string& reason) {
                                             "\r\n\r\nContinuer à partir d'ici ? La suite de ces actes sera abandonnée, "
                                             "et le fichier d'avant gardé à côté.",
                                         BoxStyle::YesNo, App::Title);
-  if (answer != Answer::Yes) throw LeftSession{};
+  if (answer != Answer::Yes) throw Leaving{};
   kept_ = textBefore(kept_, past_, act);
 }
 

@@ -18,22 +18,20 @@
 
 namespace orvane {
 
-// The user wants to leave rather than go on from where the past can be played no further.
-struct LeftSession {};
-
 // A session on the screen: what the file holds is played out of sight, then the windows show where it ended.
 class Evening {
  public:
   // Messages come up on the dialogs. The script is what the file holds.
   Evening(SessionFile& file, Script past, ScreenDialogs& dialogs);
 
-  // The start, and the past. Throws LeftSession.
+  // The start; in the turns of the event loop that follow, the past.
   void begin();
   Windows& windows() { return windows_; }
   bool isOpen() { return session_.run().mainWindow() != nullptr; }
 
  private:
   void tellChangedData();
+  void takeUp();
   void playPast();
   void tellRefused(const Act& act, const std::string& reason);
   void goOn();

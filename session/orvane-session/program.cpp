@@ -30,7 +30,7 @@ int goThrough(SessionFile& file, ScreenDialogs& dialogs) {
   evening.windows().closed = [] { QCoreApplication::quit(); };
   const EndRequests endRequests(evening.windows());
   evening.begin();
-  return evening.isOpen() ? QApplication::exec() : 0;
+  return evening.isOpen() ? QApplication::exec() : 1;
 }
 
 }  // namespace
@@ -43,8 +43,6 @@ int runSession(const std::string& path) {
     SessionFile file(path);
     takeTornLineOff(file, dialogs);
     return goThrough(file, dialogs);
-  } catch (const LeftSession&) {
-    return 0;
   } catch (const ScriptError& error) {
     dialogs.failure("La session ne peut pas être reprise.\r\n" + error.message);
   } catch (const std::exception& error) {
