@@ -59,13 +59,13 @@ const std::vector<ActKind>& actKinds() {
       {"close", {}, close},
       {"answer", {O::Answer}, answer},
       {"clock", {O::Seconds}, clock},
-      {"get", {O::Property}, get},
-      {"list", {O::Target}, list},
-      {"state", {}, state},
-      {"windows", {}, windows},
-      {"printed", {O::Target}, printed},
-      {"lost", {}, lost},
-      {"expect", {O::Property, O::Literal}, expect},
+      {"get", {O::Property}, get, true},
+      {"list", {O::Target}, list, true},
+      {"state", {}, state, true},
+      {"windows", {}, windows, true},
+      {"printed", {O::Target}, printed, true},
+      {"lost", {}, lost, true},
+      {"expect", {O::Property, O::Literal}, expect, true},
   };
   return kinds;
 }

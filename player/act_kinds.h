@@ -16,6 +16,7 @@ struct ActKind {
   std::string name;
   std::vector<Operand> operands;
   void (*play)(Stage& stage, const Act& act);
+  bool prints = false;  // or expects, and does nothing else
 };
 
 // Null for a name that no act has.

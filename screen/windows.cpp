@@ -169,6 +169,8 @@ void Windows::lookAway() {
 void Windows::catchUp() {
   desktop_.watch(*this);
   door_.resume();
+  for (auto* child : std::vector(children_))
+    if (child->form().wasUnloaded()) unloaded(child->form());
   const auto& forms = desktop_.Forms();
   const bool frameIsOpen = std::any_of(forms.begin(), forms.end(),
                                        [this](const auto& form) { return main_ && form.get() == &main_->frame(); });

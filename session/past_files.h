@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -13,6 +14,9 @@ class PastFiles final : public Files {
  public:
   // In the present all is as with the real files.
   PastFiles(Files& files, const bool& isPast) : files_(files), isPast_(isPast) {}
+
+  // What was written in the past.
+  std::function<void(const std::string& path, const std::string& bytes)> saved = [](const auto&, const auto&) {};
 
   bool fileExists(const std::string& path) override { return isPast_ || files_.fileExists(path); }
   bool directoryExists(const std::string& path) override { return isPast_ || files_.directoryExists(path); }
@@ -32,7 +36,8 @@ class PastFiles final : public Files {
   }
   bool keep(const std::string& path, const std::string& under) override { return isPast_ || files_.keep(path, under); }
   void replace(const std::string& from, const std::string& to) override {
-    isPast_ ? void(written_.erase(from)) : files_.replace(from, to);
+    if (!isPast_) return files_.replace(from, to);
+    if (const auto written = written_.extract(from)) saved(to, written.mapped());
   }
   void Kill(const std::string& path) override { isPast_ ? void(written_.erase(path)) : files_.Kill(path); }
   void sync(const std::string& directory) override {

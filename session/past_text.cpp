@@ -5,9 +5,10 @@
 #include "player/act_kinds.h"
 
 namespace orvane {
-namespace {
 
 bool isAhead(const Act& act) { return act.kind == actNamed("clock") || act.kind == actNamed("answer"); }
+
+namespace {
 
 // Lines count from 1.
 std::string linesBefore(const std::string& text, int line) {

@@ -6,6 +6,9 @@
 
 namespace orvane {
 
+// Whether it is meant for the act behind it: a clock or answers.
+bool isAhead(const Act& act);
+
 // The text of a session in front of one of its acts, without the clock and the answers that are meant for that act.
 std::string textBefore(const std::string& text, const Script& script, const Act& act);
 

@@ -29,6 +29,8 @@ class Session {
   std::function<void(std::size_t played)> progress = [](std::size_t) {};
   // An act of the past cannot be done any more; when this returns the past ends in front of it.
   std::function<void(const Act& act, const std::string& reason)> refused = [](const Act&, const std::string&) {};
+  // A file was saved in the past.
+  std::function<void(const std::string& path, const std::string& bytes)>& saved() { return files_.saved; }
   // The present begins.
   std::function<void()> arrived = [] {};
 

@@ -2,12 +2,10 @@
 #include <sstream>
 
 #include "player/one_run.h"
-#include "player/prints.h"
 #include "player/script_parser.h"
+#include "session/full_state.h"
 #include "session/session.h"
 #include "shell/frmMain.h"
-#include "surface/entry_list.h"
-#include "surface/list_view.h"
 #include "tests/random/random_user.h"
 #include "tests/support/approved.h"
 #include "tests/support/fakes.h"
@@ -50,21 +48,7 @@ class RandomSession {
     session_.playPast(script);
     EXPECT_EQ(lines, "");
   }
-  // Whatever the forms hold.
-  std::string state() {
-    std::ostringstream all;
-    Transcript transcript(all);
-    printWindows(transcript, session_.run().desktop());
-    for (const auto& form : session_.run().desktop().Forms()) {
-      printState(transcript, *form);
-      for (auto* control : form->controls()) {
-        if (dynamic_cast<EntryList*>(control) || dynamic_cast<ListView*>(control)) printList(transcript, *control);
-        if (control->kind() == "image") printPrinted(transcript, *control);
-      }
-      if (const auto* focused = form->focused()) all << "focus " << focused->id() << "\n";
-    }
-    return all.str();
-  }
+  std::string state() { return fullState(session_.run().desktop()); }
   MemoryFiles& files() { return world_.files; }
   float& now() { return world_.clock.now; }
   const Log& told() const { return world_.dialogs.log; }

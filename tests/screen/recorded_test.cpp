@@ -1,6 +1,6 @@
-#include <array>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 #include <regex>
 
 #include "player/act_kinds.h"
@@ -45,15 +45,8 @@ struct Noted {
 Noted* Noted::current = nullptr;
 
 const ActKind* notedKind(const ActKind& kind) {
-  static const std::array<ActKind, 7> noted = [] {
-    std::array<ActKind, 7> kinds;
-    std::size_t i = 0;
-    for (const char* name : {"get", "list", "state", "windows", "printed", "lost", "expect"})
-      kinds[i++] = {name, actNamed(name)->operands, Noted::play};
-    return kinds;
-  }();
-  const auto* found = std::find_if(noted.begin(), noted.end(), [&](const auto& own) { return own.name == kind.name; });
-  return found == noted.end() ? &kind : found;
+  static std::map<std::string, ActKind> noted;
+  return kind.prints ? &noted.emplace(kind.name, ActKind{kind.name, kind.operands, Noted::play}).first->second : &kind;
 }
 
 int playNoted(RecordedDoor& door, const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,

@@ -216,6 +216,32 @@ TEST_F(MainWindows, AMaximisedChildLeavesTheMenuBarToTheActiveOne) {
   EXPECT_TRUE(buttons->isVisible());
 }
 
+TEST_F(MainWindows, CatchUpWithWhatTheyDidNotSee) {
+  start();
+  auto& left = newCharacter();
+  windows.lookAway();
+  user.close(left);
+  auto& frame = *run.mainWindow();
+  user.click(frame.mnuFileNewPJ);
+  auto& active = *globals().frmCurrentPerso;
+  user.click(frame.mnuHelpContents);
+  user.type(active.txtPerso, "Cléo");
+  turn();
+  EXPECT_EQ(mainWindow().area().subWindowList().size(), 1);
+  windows.catchUp();
+  turn();
+  EXPECT_EQ(unlike(run.desktop(), windows), "");
+  EXPECT_EQ(mainWindow().area().subWindowList().size(), 2);
+  EXPECT_EQ(windowList(), "&1 (sans nom)*\n&2 Help File\n");
+  EXPECT_EQ(QApplication::focusWidget(), &find<QLineEdit>(active, "txtPerso"));
+  windows.lookAway();
+  bool hasClosed = false;
+  windows.closed = [&] { hasClosed = true; };
+  user.close(frame);
+  windows.catchUp();
+  EXPECT_TRUE(hasClosed);
+}
+
 TEST_F(MainWindows, CharacterWindowsKeepTheirSize) {
   start();
   auto* child = windows.childOf(newCharacter());

@@ -9,6 +9,7 @@
 #include "session/data_marks.h"
 #include "session/past_text.h"
 #include "session/session_file.h"
+#include "session/shortening.h"
 #include "sheet/frmFeuille.h"
 #include "shell/frmMain.h"
 #include "tests/support/approved.h"
@@ -55,6 +56,8 @@ class Sessions : public ::testing::Test, protected TestWorld<> {
   }
   Form& active() { return *session.run().desktop().activeChild(); }
 };
+
+std::string sourceText(const char* path) { return bytesOf(sourceFolder() / path); }
 
 const std::string inDialog =
     "click mnuFileNewPJ\ntype txtPerso \"Luc\"\npick SSTabPerso \"Contacts\"\nclick cmdContactNew\n"
@@ -111,6 +114,16 @@ TEST_F(Sessions, KnowTheDataTheyWereMadeWith) {
   files.contents.erase("grade.txt");
   EXPECT_EQ(changedData(text, files), (std::vector<std::string>{"grade.txt", "skill.txt"}));
   EXPECT_EQ(withDataMarks(text, files), "# head\n" + dataMarks(files) + "click mnuFileNewPJ\n");
+}
+
+// Typed over, undone, looked at only: none of it is needed. What draws and what is saved is, and what a person wrote.
+TEST_F(Sessions, AreShortenedToWhatTheirResultNeeds) {
+  const std::string text = sourceText("tests/session/long.script");
+  const Shortened shorter = shortened(text, files, pictures, [](std::size_t, std::size_t) { return true; });
+  EXPECT_EQ(shorter.text, sourceText("tests/session/short.script"));
+  EXPECT_EQ(shorter.acts, 21U);
+  EXPECT_TRUE(files.directories.empty());
+  EXPECT_THROW(shortened(text + "click cmdNothing\n", files, pictures, {}), Failure);
 }
 
 std::string whyNotOpened(const std::string& path) {
