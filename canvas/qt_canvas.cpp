@@ -25,6 +25,11 @@ QImage atSheetResolution(QImage picture) {
 
 }  // namespace
 
+QPoint penAt(float x, float y, const QFontMetricsF& metrics) {
+  const double baseline = static_cast<double>(y / twipsPerPixel) + metrics.ascent();
+  return {static_cast<int>(std::round(x / twipsPerPixel)), static_cast<int>(std::round(baseline))};
+}
+
 QtCanvas::QtCanvas(const QImage& picture) : image_(atSheetResolution(picture)), glyphs_(&SheetGlyphs::ofSize(10)) {}
 
 float QtCanvas::width() const { return static_cast<float>(image_.width()) * twipsPerPixel; }
@@ -44,8 +49,7 @@ float QtCanvas::TextHeight(std::string_view) const {
 
 void QtCanvas::print(std::string_view text, float x, float y) {
   if (text.empty()) return;
-  const double baseline = static_cast<double>(y / twipsPerPixel) + glyphs_->metrics().ascent();
-  const QPoint start(static_cast<int>(std::round(x / twipsPerPixel)), static_cast<int>(std::round(baseline)));
+  const QPoint start = penAt(x, y, glyphs_->metrics());
   const bool isGrey = image_.format() == QImage::Format_Grayscale8;
   if (!isGrey || !glyphs_->draw(text, start, image_)) printByQt(toQt(text), start);
 }

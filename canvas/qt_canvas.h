@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFontMetricsF>
 #include <QImage>
 
 #include "surface/world.h"
@@ -7,6 +8,9 @@
 namespace orvane {
 
 class SheetGlyphs;
+
+// Where a text with its top left corner at x, y, twips, starts on its base line: in pixels.
+QPoint penAt(float x, float y, const QFontMetricsF& metrics);
 
 // A picture. Its pixels are shared with the picture it was made from until it is printed on. They are grey, a byte
 // each, as long as neither that picture nor what was printed asks for more.

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "surface/chance.h"
 
@@ -11,6 +12,7 @@ namespace orvane {
 class Desktop;
 class frmFeuille;
 class frmPersonnage;
+struct PrintedSheet;
 struct ReferenceData;
 
 // The globals of one run, handed to its forms. Many runs can live in one process.
@@ -31,8 +33,12 @@ struct Globals {
   // What the editor reaches in the layers above it; they fill these in.
   std::function<void(frmPersonnage&)> composeSheet;
   std::function<void()> showReadMe;
-  // Told that the files of a sheet could not be saved.
+  // Told that the files of a sheet could not be saved, or not all of them.
   std::function<void()> sheetNotSaved;
+  // Gives the PDF that is saved beside the bitmaps of a sheet; none where there is to be no such file.
+  std::function<std::string(const PrintedSheet&)> paperOf;
+  // Told of each sheet whose bitmaps were saved.
+  std::function<void(const PrintedSheet&)> sheetSaved;
 };
 
 }  // namespace orvane

@@ -2,7 +2,7 @@
 _orvane() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options="--help --version"
   case $1 in
-    *orvane-batch) options+=" --keep-going --with --jobs" ;;
+    *orvane-batch) options+=" --keep-going --pdf --contact-sheet --with --jobs" ;;
     *orvane-check) options+=" --format --sheet" ;;
     *orvane-launch) options+=" --session" ;;
     *orvane-session) options+=" --shorten" ;;

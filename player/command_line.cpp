@@ -8,7 +8,9 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view usage = "usage : orvane-batch [--keep-going] [--with TABLE.csv [--jobs N]] [SCRIPT...]";
+constexpr std::string_view usage =
+    "usage : orvane-batch [--keep-going] [--pdf] [--contact-sheet PLANCHE.pdf] [--with TABLE.csv [--jobs N]] "
+    "[SCRIPT...]";
 constexpr std::string_view help =
     "\nJoue des scripts de personnages sans écran, l'un après l'autre, et écrit la transcription.\n"
     "Les données se lisent dans le dossier courant, les feuilles se gardent dans ./Perso.\n"
@@ -16,10 +18,13 @@ constexpr std::string_view help =
     "  --keep-going      continue après un acte refusé ; avec un tableau : à la ligne suivante\n"
     "  --with TABLE.csv  joue les scripts une fois par ligne du tableau, où ${colonne} devient son contenu\n"
     "  --jobs N          joue N lignes du tableau à la fois (1 à 64)\n"
+    "  --pdf             garde aussi chaque feuille en PDF, à côté de ses deux images\n"
+    "  --contact-sheet PLANCHE.pdf\n"
+    "                    réunit tous les personnages sauvés, deux par page, en petit\n"
     "  --help            cette aide\n"
     "  --version         la version\n\n"
     "Code de sortie : 0 tout est fait, 1 un acte a été refusé ou a échoué, 2 un script ou un tableau ne se\n"
-    "lit pas ou la commande est fautive, 3 une feuille n'a pas pu être sauvée.\n";
+    "lit pas ou la commande est fautive, 3 une feuille ou un PDF n'a pas pu être sauvé.\n";
 
 [[noreturn]] void refuse(const std::string& reason) { throw ScriptError{reason + "\n" + std::string(usage)}; }
 
@@ -46,6 +51,10 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
       line.table = value();
     else if (*argument == "--jobs")
       line.jobs = jobsOf(value());
+    else if (*argument == "--pdf")
+      line.pdf = true;
+    else if (*argument == "--contact-sheet")
+      line.contactSheet = value();
     else if (*argument == "--help")
       line.wantsHelp = true;
     else if (*argument == "--version")

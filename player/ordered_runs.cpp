@@ -46,15 +46,51 @@ bool readText(int end, std::string& text) {
   return readAll(end, text.data(), length);
 }
 
+template <class Item, class WriteItem>
+bool writeList(int end, const std::vector<Item>& list, WriteItem writeItem) {
+  const std::size_t count = list.size();
+  return writeAll(end, &count, sizeof count) &&
+         std::all_of(list.begin(), list.end(), [&](const Item& item) { return writeItem(end, item); });
+}
+
+template <class Item, class ReadItem>
+bool readList(int end, std::vector<Item>& list, ReadItem readItem) {
+  std::size_t count = 0;
+  if (!readAll(end, &count, sizeof count)) return false;
+  for (; count > 0 && readItem(end, list.emplace_back()); --count) {
+  }
+  return count == 0;
+}
+
+bool writePrinted(int end, const PrintedText& printed) {
+  return writeText(end, printed.text) && writeAll(end, &printed.x, sizeof printed.x) &&
+         writeAll(end, &printed.y, sizeof printed.y) && writeAll(end, &printed.points, sizeof printed.points);
+}
+
+bool readPrinted(int end, PrintedText& printed) {
+  return readText(end, printed.text) && readAll(end, &printed.x, sizeof printed.x) &&
+         readAll(end, &printed.y, sizeof printed.y) && readAll(end, &printed.points, sizeof printed.points);
+}
+
+bool writeSheet(int end, const PrintedSheet& sheet) {
+  return writeText(end, sheet.character) && writeText(end, sheet.player) &&
+         writeList(end, sheet.sides[0], writePrinted) && writeList(end, sheet.sides[1], writePrinted);
+}
+
+bool readSheet(int end, PrintedSheet& sheet) {
+  return readText(end, sheet.character) && readText(end, sheet.player) && readList(end, sheet.sides[0], readPrinted) &&
+         readList(end, sheet.sides[1], readPrinted);
+}
+
 bool send(int end, const RunResult& result) {
   return writeAll(end, &result.status, sizeof result.status) && writeText(end, result.transcript) &&
-         writeText(end, result.notices);
+         writeText(end, result.notices) && writeList(end, result.sheets, writeSheet);
 }
 
 RunResult receive(int end) {
   RunResult result;
   if (readAll(end, &result.status, sizeof result.status) && readText(end, result.transcript) &&
-      readText(end, result.notices))
+      readText(end, result.notices) && readList(end, result.sheets, readSheet))
     return result;
   throw Failure("Un des processus s'est arrêté avant d'avoir joué toutes ses lignes.");
 }

@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <vector>
+
+#include "surface/paper.h"
 
 namespace orvane {
 
@@ -11,6 +14,7 @@ struct RunResult {
   int status = 0;
   std::string transcript;
   std::string notices;
+  std::vector<PrintedSheet> sheets;  // that were saved, where they are wanted
 };
 
 // Plays runs 0 to count - 1 and gives their results in that order, each as soon as it is there, until none is wanted

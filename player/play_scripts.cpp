@@ -1,8 +1,10 @@
 #include "player/play_scripts.h"
 
+#include <algorithm>
 #include <array>
 
 #include "player/command_line.h"
+#include "player/contact_sheet.h"
 #include "player/one_run.h"
 #include "player/play_table.h"
 #include "player/script_parser.h"
@@ -36,16 +38,26 @@ std::string readScript(const std::string& file, std::istream& in, Files& files) 
   }
 }
 
-int play(const CommandLine& line, std::istream& in, std::ostream& out, std::ostream& err, PlayerParts parts) {
-  if (line.wantsHelp || line.wantsVersion) {
-    out << (line.wantsHelp ? usageAndHelp() : App::versionLine("orvane-batch"));
-    return status::done;
-  }
+int playRuns(const CommandLine& line, std::istream& in, std::ostream& out, std::ostream& err, PlayerParts parts) {
   std::vector<ScriptText> texts;
   for (const auto& file : line.scripts) texts.push_back({file, readScript(file, in, parts.files)});
   if (line.table.empty()) return playOneRun(parsed(texts), out, err, parts, line.keepGoing);
   const Table table = parseTable(line.table, readScript(line.table, in, parts.files));
   return playTable(table, texts, {line.keepGoing, line.jobs}, out, err, parts);
+}
+
+int play(const CommandLine& line, std::istream& in, std::ostream& out, std::ostream& err, PlayerParts parts) {
+  if (line.wantsHelp || line.wantsVersion) {
+    out << (line.wantsHelp ? usageAndHelp() : App::versionLine("orvane-batch"));
+    return status::done;
+  }
+  std::vector<PrintedSheet> sheets;
+  PlayerParts ofRuns = parts;
+  if (!line.pdf) ofRuns.paper = nullptr;
+  if (!line.contactSheet.empty()) ofRuns.savedSheets = &sheets;
+  const int ended = playRuns(line, in, out, err, ofRuns);
+  if (line.contactSheet.empty()) return ended;
+  return std::max(ended, saveContactSheet(line.contactSheet, sheets, err, parts));
 }
 
 }  // namespace

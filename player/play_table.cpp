@@ -42,14 +42,18 @@ std::vector<RowScripts> scriptsOf(const Table& table, const std::vector<ScriptTe
 }
 
 RunResult playRow(const RowScripts& row, PlayerParts parts) {
-  if (!row.fault.empty()) return {status::notAllDone, {}, row.fault + "\n"};
+  RunResult result;
+  if (!row.fault.empty()) return {status::notAllDone, {}, row.fault + "\n", {}};
   std::ostringstream out, err;
-  const int ended = playOneRun(row.scripts, out, err, parts, false);
-  return {ended, out.str(), err.str()};
+  if (parts.savedSheets) parts.savedSheets = &result.sheets;
+  result.status = playOneRun(row.scripts, out, err, parts, false);
+  result.transcript = out.str();
+  result.notices = err.str();
+  return result;
 }
 
 std::string_view wordsOn(int ended) {
-  return ended == status::notSaved ? "la feuille n'a pas pu être sauvée"
+  return ended == status::notSaved ? "la feuille n'a pas pu être sauvée en entier"
                                    : "la ligne n'a pas été jouée comme il fallait";
 }
 
@@ -70,6 +74,7 @@ int playTable(const Table& table, const std::vector<ScriptText>& texts, TableOpt
   const auto take = [&](const RunResult& result) {
     progress.hide();
     out << result.transcript << std::flush;
+    if (auto* sheets = parts.savedSheets) sheets->insert(sheets->end(), result.sheets.begin(), result.sheets.end());
     err << result.notices;
     if (result.status != status::done) err << placeOf(table, row) << wordsOn(result.status) << std::endl;
     progress.show(++row, rows.size());

@@ -16,6 +16,10 @@ ScriptPlayer::ScriptPlayer(std::ostream& out, std::ostream& err, PlayerParts par
       keepGoing_(keepGoing) {
   dialogs_.playModal = [this](Form& form) { playModal(form); };
   run_.globals().sheetNotSaved = [this] { unsavedSheets_ = true; };
+  if (auto* paper = parts.paper)
+    run_.globals().paperOf = [paper](const PrintedSheet& sheet) { return paper->sheet(sheet); };
+  if (auto* sheets = parts.savedSheets)
+    run_.globals().sheetSaved = [sheets](const PrintedSheet& sheet) { sheets->push_back(sheet); };
 }
 
 bool ScriptPlayer::play(const std::vector<Script>& scripts) {

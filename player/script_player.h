@@ -9,6 +9,7 @@
 #include "player/script.h"
 #include "player/stage.h"
 #include "shell/main_procedure.h"
+#include "surface/paper.h"
 
 namespace orvane {
 
@@ -39,6 +40,8 @@ struct PlayerParts {
   Clock& timeOfDay;
   Door* door = nullptr;
   Progress* progress = nullptr;
+  Paper* paper = nullptr;                            // null: no PDF beside the bitmaps
+  std::vector<PrintedSheet>* savedSheets = nullptr;  // gets each sheet that is saved
 };
 
 // One run of the system that scripts are played in, one after another.

@@ -35,6 +35,7 @@ void composeSheet(Globals& globals, frmPersonnage& perso) {
   const std::string sCharName = perso.txtPerso.Text();
   unloadSheetOf(globals.desktop, sCharName);
   const auto sheet = openSheet(globals, sCharName);
+  sheet->player = perso.txtJoueur.Text();
   setFontSizes(*sheet, workingSize);
   for (auto* picture : {&sheet->pctRecto, &sheet->pctVerso}) picture->setFontName(sheetFontName);
   composeRecto(*sheet, perso);

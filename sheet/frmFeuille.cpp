@@ -41,6 +41,13 @@ void frmFeuille::Form_Load() {
   optFeuille(0).setValue(true);
 }
 
+PrintedSheet frmFeuille::printed() const {
+  PrintedSheet sheet{Caption(), player, {}};
+  for (const auto& entry : log.printed)
+    sheet.sides[entry.picture == &pctRecto ? 0 : 1].push_back({entry.text, entry.x, entry.y, entry.points});
+  return sheet;
+}
+
 void frmFeuille::Form_Activate() { globals_.frmCurrentFeuille = this; }
 
 void frmFeuille::unloaded() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "editor/globals.h"
 #include "surface/command_button.h"
 #include "surface/form.h"
 #include "surface/option_button.h"
+#include "surface/paper.h"
 #include "surface/picture_box.h"
 #include "surface/scroll_bar.h"
 #include "surface/shape.h"
@@ -21,6 +23,9 @@ class frmFeuille : public Form {
 
   // What was printed on both pictures.
   PrintLog log;
+  // The player whose character it is.
+  std::string player;
+  PrintedSheet printed() const;
 
   PictureBox pctMesure{*this, "pctMesure"};
   PictureBox pctRecto{*this, "pctRecto", {"recto", &log}};
@@ -94,6 +99,7 @@ class frmFeuille : public Form {
   // False where that failed, which is told, or the user keeps the files of before.
   bool triesToSave(SheetFiles& files);
   bool saveFiles(SheetFiles& files);
+  void saveBoth(SheetFiles& files);
   bool mayOverwrite();
   void printDrawnPower();
 

@@ -9,9 +9,9 @@
 namespace orvane {
 namespace {
 
-void writeFresh(Files& files, const SavedSide& side, const std::string& bytes) {
-  files.write(side.fresh, bytes);
-  if (!files.holds(side.fresh, bytes)) throw Failure("Le fichier " + side.fresh + " se relit autrement qu'écrit.");
+void writeFresh(Files& files, const std::string& path, const std::string& bytes) {
+  files.write(path, bytes);
+  if (!files.holds(path, bytes)) throw Failure("Le fichier " + path + " se relit autrement qu'écrit.");
 }
 
 void keepFormer(Files& files, const SavedSide& side) {
@@ -23,11 +23,46 @@ void keepFormer(Files& files, const SavedSide& side) {
 
 void putInPlace(Files& files, const SaveFolder& folder, const std::array<std::string, 2>& bitmaps) {
   const auto sides = folder.sides();
-  for (std::size_t i = 0; i < sides.size(); ++i) writeFresh(files, sides[i], bitmaps[i]);
+  for (std::size_t i = 0; i < sides.size(); ++i) writeFresh(files, sides[i].fresh, bitmaps[i]);
   for (const auto& side : sides) keepFormer(files, side);
   files.sync(folder.path());
   files.sync(sheetFolder);
   for (const auto& side : sides) files.replace(side.fresh, side.goal);
+}
+
+bool isSetAside(Files& files, const SavedPaper& paper) try {
+  if (files.fileExists(paper.goal)) files.replace(paper.goal, paper.former);
+  return true;
+} catch (const std::exception&) {
+  return false;
+}
+
+// Tried again before it is left: it stays beside a new pair then, should the program die before the new paper is there.
+void setAside(Files& files, const SavedPaper& paper) {
+  if (!isSetAside(files, paper)) isSetAside(files, paper);
+}
+
+void putInPlace(Files& files, const SavedPaper& paper, const MakePaper& make) {
+  writeFresh(files, paper.fresh, make());
+  if (files.fileExists(paper.former)) files.takeRights(paper.fresh, paper.former);
+  files.replace(paper.fresh, paper.goal);
+  files.sync(sheetFolder);
+}
+
+bool maySeem(Files& files, const std::string& path) try {
+  return files.fileExists(path);
+} catch (const std::exception&) {
+  return true;
+}
+
+std::string faultOfPaper(Files& files, const SaveFolder& folder, const MakePaper& make) try {
+  putInPlace(files, folder.paper(), make);
+  return {};
+} catch (const std::exception& failure) {
+  const std::string goal = folder.paper().goal;
+  return "Les deux images de « " + folder.name().value() +
+         " » sont sauvées, mais son PDF n'a pas pu l'être : " + sentenceOn(failure) +
+         (maySeem(files, goal) ? " Ne vous fiez pas à " + goal + "." : "");
 }
 
 // Gives what it leaves behind, a sentence each with a blank in front.
@@ -53,21 +88,25 @@ std::string undo(Files& files, SaveFolder& folder) {
 
 }  // namespace
 
-std::string savePair(Files& files, const std::string& name, const std::array<std::string, 2>& bitmaps) {
+SavedPair savePair(Files& files, const std::string& name, const std::array<std::string, 2>& bitmaps,
+                   const MakePaper& paper) {
   SaveFolder folder = SaveFolder::make(files, name);
   try {
     putInPlace(files, folder, bitmaps);
+    if (paper) setAside(files, folder.paper());
     folder.end();
   } catch (const std::exception& failure) {
     const std::string reason = sentenceOn(failure);
     throw Failure(reason + undo(files, folder));
   }
+  SavedPair saved;
+  if (paper) saved.faultOfPaper = faultOfPaper(files, folder, paper);
   try {
     folder.remove();
   } catch (const std::exception& failure) {
-    return "Le dossier " + folder.path() + " n'a pas pu être retiré : " + sentenceOn(failure);
+    saved.leftover = "Le dossier " + folder.path() + " n'a pas pu être retiré : " + sentenceOn(failure);
   }
-  return {};
+  return saved;
 }
 
 }  // namespace orvane

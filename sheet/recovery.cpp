@@ -19,9 +19,15 @@ void putBack(Files& files, const SavedSide& side, const std::vector<std::string>
   if (has(side.nothing)) files.Kill(side.goal);
 }
 
-bool isPutBack(Files& files, const SaveFolder& folder, const SavedSide& side) {
+void putBack(Files& files, const SavedPaper& paper, const std::vector<std::string>& contents) {
+  if (std::find(contents.begin(), contents.end(), paper.former) != contents.end())
+    files.replace(paper.former, paper.goal);
+}
+
+template <class File>
+bool isPutBack(Files& files, const SaveFolder& folder, const File& file) {
   try {
-    putBack(files, side, folder.contents());
+    putBack(files, file, folder.contents());
     return true;
   } catch (const std::exception&) {
     return false;
@@ -44,8 +50,11 @@ std::string recovered(Files& files, SaveFolder& folder) {
 void takeBack(Files& files, const SaveFolder& folder) {
   if (!folder.name()) return;
   std::string doubtful;
-  for (const auto& side : folder.sides())
-    if (!isPutBack(files, folder, side)) doubtful += (doubtful.empty() ? "" : ", ") + side.goal;
+  const auto tryTo = [&](const auto& file) {
+    if (!isPutBack(files, folder, file)) doubtful += (doubtful.empty() ? "" : ", ") + file.goal;
+  };
+  for (const auto& side : folder.sides()) tryTo(side);
+  tryTo(folder.paper());
   if (!doubtful.empty())
     throw Failure("Ces fichiers ne sont peut-être pas comme avant : " + doubtful + ". Le dossier " + folder.path() +
                   " garde de quoi les remettre au prochain démarrage.");

@@ -17,7 +17,8 @@ constexpr std::size_t mostDigits = 6;
 constexpr const char* freshSuffix = ".bmp";
 constexpr const char* formerSuffix = ".old";
 constexpr const char* nothingSuffix = ".nil";
-constexpr std::size_t suffixLength = 6;  // with "_1"
+constexpr const char* freshPaperSuffix = ".pdf";
+constexpr const char* formerPaperSuffix = ".was";
 
 std::string inFolder(const std::string& folder, const std::string& name) { return folder + '/' + name; }
 
@@ -29,14 +30,21 @@ bool namesSaveFolder(std::string_view name) {
          name.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+// All that may stand behind the name of the character.
+std::vector<std::string> suffixes() {
+  std::vector<std::string> found = {freshPaperSuffix, formerPaperSuffix};
+  for (const std::size_t side : {0U, 1U})
+    for (const char* suffix : {freshSuffix, formerSuffix, nothingSuffix}) found.push_back(sideName("", side, suffix));
+  return found;
+}
+
 // The character of a file in a save folder; none for any other file.
 std::optional<std::string> characterOf(const std::string& file) {
-  if (file.size() < suffixLength) return std::nullopt;
-  const std::string name = file.substr(0, file.size() - suffixLength);
-  if (faultOfFileName(name)) return std::nullopt;
-  for (const std::size_t side : {0U, 1U})
-    for (const char* suffix : {freshSuffix, formerSuffix, nothingSuffix})
-      if (file == sideName(name, side, suffix)) return name;
+  for (const auto& suffix : suffixes()) {
+    if (!file.ends_with(suffix)) continue;
+    const std::string name = file.substr(0, file.size() - suffix.size());
+    if (!faultOfFileName(name)) return name;
+  }
   return std::nullopt;
 }
 
@@ -85,6 +93,11 @@ std::array<SavedSide, 2> SaveFolder::sides() const {
     sides[i] = {goalOf(name_.value(), i), path(freshSuffix), path(formerSuffix), path(nothingSuffix)};
   }
   return sides;
+}
+
+SavedPaper SaveFolder::paper() const {
+  const auto path = [&](const char* suffix) { return inFolder(path_, name_.value() + suffix); };
+  return {paperGoalOf(name_.value()), path(freshPaperSuffix), path(formerPaperSuffix)};
 }
 
 std::vector<std::string> SaveFolder::contents() const {

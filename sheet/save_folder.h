@@ -17,9 +17,17 @@ struct SavedSide {
   std::string nothing;  // an empty file, where nothing was
 };
 
+// The paths of the PDF beside both sides.
+struct SavedPaper {
+  std::string goal;
+  std::string fresh;
+  std::string former;
+};
+
 // The folder of its own that a save works in: ./Perso/.sauvegarde-N, N from 1, with NAME_1.bmp (the new file),
-// NAME_1.old (the former one) or NAME_1.nil (none), and the same for the other side. Whoever finds one that no living
-// program works in takes back what was begun; it is only to be removed when it is over and called
+// NAME_1.old (the former one) or NAME_1.nil (none), and the same for the other side. NAME.was is a former PDF that is
+// out of the way meanwhile; NAME.pdf is a new one, which comes only once the pair is in place for good. Whoever finds
+// one that no living program works in takes back what was begun; it is only to be removed when it is over and called
 // ./Perso/.sauvegarde-N-finie. Nothing else in ./Perso is ever taken for one.
 class SaveFolder {
  public:
@@ -34,6 +42,7 @@ class SaveFolder {
 
   // The character is known.
   std::array<SavedSide, 2> sides() const;
+  SavedPaper paper() const;
   // The names of the files that are in it now.
   std::vector<std::string> contents() const;
 

@@ -50,13 +50,22 @@ bool frmFeuille::saveFiles(SheetFiles& files) {
     auto turn = files.takeTurn(desktop().world().dialogs);
     if (mayReplace || !files.frontExists()) {
       printDrawnPower();
-      files.save({pctRecto.Image().bitmap(), pctVerso.Image().bitmap()});
+      saveBoth(files);
       return true;
     }
     // No other program waits for the answer.
     turn.reset();
     if (!mayOverwrite()) return false;
   }
+}
+
+void frmFeuille::saveBoth(SheetFiles& files) {
+  const PrintedSheet sheet = printed();
+  MakePaper paper;
+  if (globals_.paperOf) paper = [&] { return globals_.paperOf(sheet); };
+  const bool isComplete = files.save({pctRecto.Image().bitmap(), pctVerso.Image().bitmap()}, paper);
+  if (!isComplete && globals_.sheetNotSaved) globals_.sheetNotSaved();
+  if (globals_.sheetSaved) globals_.sheetSaved(sheet);
 }
 
 bool frmFeuille::confirmed() {

@@ -1,6 +1,5 @@
 #include "sheet/sheet_files.h"
 
-#include "sheet/pair_save.h"
 #include "sheet/recovery.h"
 #include "sheet/sheet_names.h"
 #include "surface/failure.h"
@@ -44,13 +43,15 @@ std::string SheetFiles::whoIsSaved() const {
   return "un personnage";
 }
 
-void SheetFiles::save(const std::array<std::string, 2>& bitmaps) {
+bool SheetFiles::save(const std::array<std::string, 2>& bitmaps, const MakePaper& paper) {
   for (const auto& folder : SaveFolder::findAll(files_))
     if (!folder.isOver() && folder.name() == name_)
       throw Failure("Une sauvegarde interrompue de ce nom n'a pas pu être reprise ; elle est gardée dans " +
                     folder.path() + ".");
-  const std::string remark = savePair(files_, name_, bitmaps);
-  if (!remark.empty()) remarks_.push_back(remark);
+  const SavedPair saved = savePair(files_, name_, bitmaps, paper);
+  for (const auto& remark : {saved.faultOfPaper, saved.leftover})
+    if (!remark.empty()) remarks_.push_back(remark);
+  return saved.faultOfPaper.empty();
 }
 
 }  // namespace orvane

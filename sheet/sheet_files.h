@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "sheet/pair_save.h"
 #include "surface/world.h"
 
 namespace orvane {
@@ -21,8 +22,9 @@ class SheetFiles {
   // Waits a moment for other programs that save, and fails where one goes on; it says who is being saved. Brings to an
   // end what dead programs have left, and tells of it.
   std::unique_ptr<FolderLock> takeTurn(Dialogs& dialogs);
-  // Front and back, both or none: a pair of before is replaced as a whole or stays as it was. Only in one's turn.
-  void save(const std::array<std::string, 2>& bitmaps);
+  // Front and back, both or none: a pair of before is replaced as a whole or stays as it was. Only in one's turn. False
+  // where the paper that there was to be beside them is missing; a remark says why.
+  bool save(const std::array<std::string, 2>& bitmaps, const MakePaper& paper);
 
   // French sentences on what lies in ./Perso that should not.
   const std::vector<std::string>& remarks() const { return remarks_; }

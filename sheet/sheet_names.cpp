@@ -4,7 +4,7 @@ namespace orvane {
 namespace {
 
 constexpr std::size_t longestFileName = 255;  // bytes
-// All suffixes are of one length: where a goal has room, what a save works with has.
+// No suffix is longer: where a goal has room, what a save works with has.
 constexpr std::size_t suffixLength = 6;
 
 bool isControl(const std::string& name, std::size_t i) {
@@ -36,5 +36,7 @@ std::string sideName(const std::string& name, std::size_t side, const char* suff
 std::string goalOf(const std::string& name, std::size_t side) {
   return std::string(sheetFolder) + '/' + sideName(name, side, ".bmp");
 }
+
+std::string paperGoalOf(const std::string& name) { return std::string(sheetFolder) + '/' + name + ".pdf"; }
 
 }  // namespace orvane

@@ -18,4 +18,7 @@ std::string sideName(const std::string& name, std::size_t side, const char* suff
 // ./Perso/NAME_1.bmp for side 0, ./Perso/NAME_2.bmp for side 1.
 std::string goalOf(const std::string& name, std::size_t side);
 
+// ./Perso/NAME.pdf
+std::string paperGoalOf(const std::string& name);
+
 }  // namespace orvane

@@ -1,8 +1,9 @@
 # Sourced by ./run, ./test and .ci/run: install_packages installs what is missing of the named Debian packages.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libicu-dev libfontconfig-dev fonts-liberation)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libicu-dev libfontconfig-dev libqpdf-dev
+  fonts-liberation)
 test_packages=(libgtest-dev poppler-utils fonts-dejavu-core  # the font of the screenshots
-  xvfb xauth dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0)  # a screen reader in front of the program
+  python3 xvfb xauth dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0)  # a screen reader in front of the program
 bench_packages=(libbenchmark-dev mawk)
 
 install_packages() {

@@ -2,7 +2,7 @@
 #include <unistd.h>
 
 #include "canvas/sheet_font.h"
-#include "player/batch/late_pictures.h"
+#include "player/batch/late_toolkit.h"
 #include "player/play_scripts.h"
 #include "surface/disk_files.h"
 #include "surface/system_clock.h"
@@ -43,10 +43,13 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
   PatientFiles files;
-  orvane::LatePictures pictures(argv);
+  orvane::LateToolkit toolkit(argv);
+  orvane::LatePictures pictures(toolkit);
+  orvane::LatePaper paper(toolkit);
   orvane::SystemClock timeOfDay;
   ProgressBar bar;
   orvane::PlayerParts parts{files, pictures, timeOfDay};
+  parts.paper = &paper;
   if (::isatty(STDERR_FILENO)) parts.progress = &bar;
   return orvane::playScripts(arguments, std::cin, std::cout, std::cerr, parts);
 }

@@ -38,6 +38,7 @@ bool runs(const std::function<bool()>& process) {
 // What a program told, and whether it saved.
 struct Told {
   bool saved = false;
+  bool hasPaper = false;
   Texts texts;
   bool names(const std::string& what) const {
     return std::any_of(texts.begin(), texts.end(), [&](auto& text) { return text.find(what) != std::string::npos; });
@@ -52,14 +53,20 @@ struct DialogsOutOfTurn : LoggedDialogs {
   }
 };
 
-Told save(Files& files, const Bitmaps& bitmaps) {
+// Each pair of the tests has a PDF that says so; there is none where it says nothing.
+const std::string goalOfPaper = "./Perso/Luc.pdf";
+std::string paperOf(const Bitmaps& bitmaps) { return bitmaps == absent ? "" : "PDF: " + bitmaps[0] + bitmaps[1]; }
+
+Told save(Files& files, const Bitmaps& bitmaps, bool withPaper = false) {
   DialogsOutOfTurn dialogs;
   Told told;
   SheetFiles sheet(files, "Luc");
   try {
     sheet.makeFolder();
     const auto turn = sheet.takeTurn(dialogs);
-    sheet.save(bitmaps);
+    MakePaper paper;
+    if (withPaper) paper = [&] { return paperOf(bitmaps); };
+    told.hasPaper = sheet.save(bitmaps, paper);
     told.saved = true;
   } catch (const Failure& failure) {
     told.texts.push_back(failure.what());
@@ -76,9 +83,9 @@ Texts start(Files& files) {
 }
 
 // A whole program: its start and a save.
-Told play(Files& files) {
+Told play(Files& files, bool withPaper) {
   const Texts first = start(files);
-  Told told = save(files, fresh);
+  Told told = save(files, fresh, withPaper);
   told.texts.insert(told.texts.begin(), first.begin(), first.end());
   return told;
 }
@@ -89,6 +96,7 @@ struct State {
   Bitmaps pair;
   bool front = false;  // is a link to a file outside
   bool linksKnown = true;
+  bool paper = false;  // beside the pair of before, and wanted by all that save
   int deadAt = 0;
 };
 
@@ -106,13 +114,14 @@ class Pair : public ::testing::Test {
     for (std::size_t i = 0; i < goals.size(); ++i)
       if (!state.pair[i].empty() && !(i == 0 && state.front)) disk.write(goals[i], state.pair[i]);
     if (state.front) fs::create_symlink("../outside", goals[0]);
+    if (state.paper && state.pair != absent) disk.write(goalOfPaper, paperOf(state.pair));
     if (state.deadAt > 0) runs([&] { return dies(state); });
   }
   static bool dies(const State& state) {
     FaultyFiles files;
     files.knowsLinks = state.linksKnown;
     files.faultAt = [&](int call) { return call == state.deadAt ? Fault::Kill : Fault::None; };
-    return save(files, dead).saved;
+    return save(files, dead, state.paper).saved;
   }
 
   static Bitmaps pair() {
@@ -121,12 +130,14 @@ class Pair : public ::testing::Test {
       if (fs::exists(goals[i])) found[i] = DiskFiles().read(goals[i]);
     return found;
   }
+  static std::string paper() { return fs::exists(goalOfPaper) ? DiskFiles().read(goalOfPaper) : ""; }
   // All in ./Perso that is no goal.
   static std::set<std::string> companions() {
     std::set<std::string> found;
     if (!fs::exists("Perso")) return found;
     for (const auto& entry : fs::directory_iterator("./Perso"))
-      if (entry.path() != goals[0] && entry.path() != goals[1]) found.insert(entry.path());
+      if (entry.path() != goals[0] && entry.path() != goals[1] && entry.path() != goalOfPaper)
+        found.insert(entry.path());
     return found;
   }
   // Everything in ./Perso with its bytes.
@@ -164,9 +175,17 @@ class Pair : public ::testing::Test {
     for (const auto& companion : companions())
       EXPECT_TRUE(companionsBefore.count(companion) > 0 || told.names(companion)) << companion;
     EXPECT_TRUE(told.saved || !told.texts.empty());
+    if (!state.paper || !told.saved) return;
+    EXPECT_EQ(told.hasPaper, !told.names("son PDF n'a pas pu l'être"));
+    EXPECT_TRUE(paper() == (told.hasPaper ? paperOf(fresh) : "") || told.names("Ne vous fiez pas à " + goalOfPaper));
   }
 
-  void expectWhole(const State& state) {
+  // That of the pair, or none; what replaced nothing has lost nothing.
+  static void expectPaperOf(const State& state, const Bitmaps& now) {
+    EXPECT_TRUE(paper() == paperOf(now) || (paper().empty() && now != state.pair)) << paper();
+  }
+
+  void expectWhole(const State& state, bool paperIsDoubtful) {
     const std::size_t left = companions().size();
     DiskFiles disk;
     EXPECT_EQ(start(disk).size(), left);
@@ -175,6 +194,7 @@ class Pair : public ::testing::Test {
     EXPECT_TRUE(now == state.pair || now == fresh || (now == dead && state.deadAt > 0)) << now[0] << ", " << now[1];
     EXPECT_EQ(disk.read("outside"), former[0]);
     EXPECT_EQ(fs::is_symlink(goals[0]), state.front && now == state.pair);
+    if (state.paper && !paperIsDoubtful) expectPaperOf(state, now);
   }
 
   // One case: what lies on the disk after a program that met these faults, and after the next start. Gives the calls.
@@ -191,11 +211,14 @@ class Pair : public ::testing::Test {
       if (call == killed) return Fault::Kill;
       return call == failing || call == again || (again == onward && call > failing) ? Fault::Failure : Fault::None;
     };
-    if (killed > 0)
-      EXPECT_FALSE(runs([&] { return play(files).saved || true; }));
-    else
-      expectTruth(state, play(files), pairBefore, companionsBefore);
-    expectWhole(state);
+    Told told;
+    if (killed > 0) {
+      EXPECT_FALSE(runs([&] { return play(files, state.paper).saved || true; }));
+    } else {
+      told = play(files, state.paper);
+      expectTruth(state, told, pairBefore, companionsBefore);
+    }
+    expectWhole(state, told.names("Ne vous fiez pas"));
     return files.calls;
   }
 
@@ -224,6 +247,8 @@ const std::vector<State> Pair::bases = {
     {.name = "back alone", .pair = {"", "old back"}},
     {.name = "a link", .pair = former, .front = true},
     {.name = "no second paths", .pair = former, .linksKnown = false},
+    {.name = "first PDF", .pair = absent, .paper = true},
+    {.name = "with a PDF", .pair = former, .paper = true},
 };
 
 TEST_F(Pair, IsWhollyOldOrWhollyNewWhateverFailsWhereverAProgramDies) {

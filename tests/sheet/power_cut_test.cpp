@@ -89,15 +89,18 @@ class ForgetfulFiles : public MemoryFiles {
   }
 };
 
-using Bitmaps = std::array<std::string, 2>;
-const Bitmaps fresh = {"new front", "new back"};
+// Front, back and the PDF.
+using Sheet = std::array<std::string, 3>;
+const Sheet goals = {"./Perso/Luc_1.bmp", "./Perso/Luc_2.bmp", "./Perso/Luc.pdf"};
+const Sheet fresh = {"new front", "new back", "new PDF"};
+const Sheet withoutPaper = {"new front", "new back", ""};
 
-Bitmaps pair(const MemoryFiles& files) {
-  const auto bytes = [&](const char* path) {
+Sheet sheet(const MemoryFiles& files) {
+  const auto bytes = [&](const std::string& path) {
     const auto found = files.contents.find(path);
     return found == files.contents.end() ? std::string() : found->second;
   };
-  return {bytes("./Perso/Luc_1.bmp"), bytes("./Perso/Luc_2.bmp")};
+  return {bytes(goals[0]), bytes(goals[1]), bytes(goals[2])};
 }
 
 // True where it told that it has saved, false where the power failed before.
@@ -105,11 +108,10 @@ bool saves(ForgetfulFiles& files) {
   LoggedDialogs dialogs;
   try {
     recoverSavesAtStart(files, dialogs);
-    SheetFiles sheet(files, "Luc");
-    sheet.makeFolder();
-    const auto turn = sheet.takeTurn(dialogs);
-    sheet.save(fresh);
-    return true;
+    SheetFiles sheetFiles(files, "Luc");
+    sheetFiles.makeFolder();
+    const auto turn = sheetFiles.takeTurn(dialogs);
+    return sheetFiles.save({fresh[0], fresh[1]}, [] { return fresh[2]; });
   } catch (const ForgetfulFiles::PowerCut&) {
     return false;
   }
@@ -120,14 +122,15 @@ void start(Files& files) {
   recoverSavesAtStart(files, dialogs);
 }
 
-void expectWhole(MemoryFiles files, const Bitmaps& former, bool saved) {
+void expectWhole(MemoryFiles files, const Sheet& former, bool saved) {
   start(files);
-  EXPECT_TRUE(pair(files) == fresh || (!saved && pair(files) == former)) << pair(files)[0] << ", " << pair(files)[1];
+  const Sheet now = sheet(files);
+  EXPECT_TRUE(now == fresh || (!saved && (now == former || now == withoutPaper))) << now[0] << ", " << now[1] << now[2];
   for (const auto& entry : files.list("./Perso")) EXPECT_FALSE(entry.name.starts_with(".")) << entry.name;
 }
 
 // The power may fail again during the next start.
-void expectWholeAtLast(const MemoryFiles& found, const Bitmaps& former, bool saved) {
+void expectWholeAtLast(const MemoryFiles& found, const Sheet& former, bool saved) {
   expectWhole(found, former, saved);
   for (int call = 0;; ++call) {
     ForgetfulFiles files;
@@ -142,7 +145,7 @@ void expectWholeAtLast(const MemoryFiles& found, const Bitmaps& former, bool sav
 }
 
 // Nothing, everything, one change alone, or all but one of what was not synced: gives the number of states.
-int expectWholeWhateverCameThrough(const ForgetfulFiles& files, const Bitmaps& former, bool saved) {
+int expectWholeWhateverCameThrough(const ForgetfulFiles& files, const Sheet& former, bool saved) {
   const std::size_t changes = files.unsynced.size();
   for (std::size_t one = 0; one <= changes; ++one) {
     expectWholeAtLast(files.after([&](std::size_t i) { return i == one; }), former, saved);
@@ -151,16 +154,17 @@ int expectWholeWhateverCameThrough(const ForgetfulFiles& files, const Bitmaps& f
   return static_cast<int>(2 * changes + 2);
 }
 
-TEST(PowerCut, LeavesAPairWhollyOldOrWhollyNew) {
+TEST(PowerCut, LeavesAPairWhollyOldOrWhollyNewWithItsOwnPdfOrNone) {
   int states = 0;
-  for (const Bitmaps& former : {Bitmaps{}, Bitmaps{"old front", "old back"}, Bitmaps{"", "old back"}}) {
+  for (const Sheet& former :
+       {Sheet{}, Sheet{"old front", "old back"}, Sheet{"", "old back"}, Sheet{"old front", "old back", "old PDF"}}) {
     bool saved = false;
     for (int call = 0; !saved && !HasFailure(); ++call) {
       SCOPED_TRACE(former[0] + ", cut before call " + std::to_string(call + 1));
       ForgetfulFiles files;
       files.directories = {"."};
       for (std::size_t i = 0; i < former.size(); ++i)
-        if (!former[i].empty()) files.contents["./Perso/Luc_" + std::to_string(i + 1) + ".bmp"] = former[i];
+        if (!former[i].empty()) files.contents[goals[i]] = former[i];
       if (!files.contents.empty()) files.directories.insert("./Perso");
       files.kept = files;
       files.callsLeft = call;
