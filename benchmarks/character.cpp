@@ -23,7 +23,7 @@ std::string renamed(std::string text, const std::string& name) {
 class WatchedUser final : public User {
  public:
   WatchedUser(Desktop& desktop, const Watch& watch, bool shown) : User(desktop), watch_(watch) {
-    if (shown) windows_.emplace(desktop);
+    if (shown) windows_.emplace(desktop, *this);
   }
 
   void click(Control& control) override {

@@ -60,7 +60,7 @@ void showAll() {
 }
 
 ScreenRun::ScreenRun(const Path& folder)
-    : run_({dialogs_, clock_, settings_, files_, pictures_}), windows_(run_.desktop()) {
+    : run_({dialogs_, clock_, settings_, files_, pictures_}), user_(run_.desktop()), windows_(run_.desktop(), user_) {
   const Inside inside(folder);
   run_.Main();
   showAll();

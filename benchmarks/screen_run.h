@@ -52,6 +52,7 @@ class ScreenRun {
   DiskFiles files_;
   QtPictures pictures_;
   Run run_;
+  User user_;
   Windows windows_;
 };
 
