@@ -220,7 +220,7 @@ class frmPersonnage : public Form {
   bool addMartialSkillLevels(ListItem& row);
   ListItemRef addSkillRow(const clsSkill& skill, double level, bool ofProfile);
   bool paySkillPoints(double cost);
-  void warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill);
+  void warnOfRedundancy(const clsSkill& skill, int count);
   void showFirstSkill();
 
   // --- Characteristics

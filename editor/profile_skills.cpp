@@ -17,10 +17,12 @@ void setStartLevel(ListItem& row, double level) {
 
 // False when the pool was too small: the rows made so far stay.
 bool frmPersonnage::buildSkillList(const ProfileCopies& profiles) {
+  const SkillCounts counts(profiles);
   for (const auto& skill : data_.colSkill) {
     if (skill->iKey == vehicleCode) continue;
-    warnOfRedundancy(profiles, *skill);
-    if (occurrences(profiles, skill->iKey) == 0)
+    const int count = counts(skill->iKey);
+    warnOfRedundancy(*skill, count);
+    if (count == 0)
       addSkillRow(*skill, skill->iStart, false);
     else if (!addProfileSkill(*skill))
       return false;
@@ -28,8 +30,8 @@ bool frmPersonnage::buildSkillList(const ProfileCopies& profiles) {
   return true;
 }
 
-void frmPersonnage::warnOfRedundancy(const ProfileCopies& profiles, const clsSkill& skill) {
-  for (int again = 2; again <= occurrences(profiles, skill.iKey); ++again)
+void frmPersonnage::warnOfRedundancy(const clsSkill& skill, int count) {
+  for (int again = 2; again <= count; ++again)
     desktop().MsgBox("Compétence " + skill.sName + " redondante.", BoxStyle::Exclamation);
 }
 

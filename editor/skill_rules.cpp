@@ -16,11 +16,14 @@ LevelLimits levelLimits(const clsSkill& skill, bool ofProfile) {
 
 double profileSkillCost(std::int16_t iStart) { return iStart < profileSkillLevel ? profileSkillLevel - iStart : 0.0; }
 
-int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::int16_t iKey) {
-  int count = 0;
+SkillCounts::SkillCounts(const std::vector<std::shared_ptr<clsProfil>>& profiles) {
   for (const auto& profile : profiles)
-    count += static_cast<int>(std::count(profile->colSkillPro.begin(), profile->colSkillPro.end(), iKey));
-  return count;
+    for (const double key : profile->colSkillPro) ++counts_[key];
+}
+
+int SkillCounts::operator()(std::int16_t iKey) const {
+  const auto found = counts_.find(iKey);
+  return found == counts_.end() ? 0 : found->second;
 }
 
 }  // namespace orvane

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "data/records.h"
@@ -27,7 +28,14 @@ LevelLimits levelLimits(const clsSkill& skill, bool ofProfile);
 // What a profile skill costs; nothing is paid back for a base value above 1.
 double profileSkillCost(std::int16_t iStart);
 
-// How often the profiles name a skill.
-int occurrences(const std::vector<std::shared_ptr<clsProfil>>& profiles, std::int16_t iKey);
+// How often profiles name each skill.
+class SkillCounts {
+ public:
+  explicit SkillCounts(const std::vector<std::shared_ptr<clsProfil>>& profiles);
+  int operator()(std::int16_t iKey) const;
+
+ private:
+  std::unordered_map<double, int> counts_;
+};
 
 }  // namespace orvane
