@@ -179,6 +179,12 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       drawOutline(*painter, frameOf(element, *option, widget), one.outline, edgeColour(*option, one.ground));
 }
 
+QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+  auto& known = icons_[icon];
+  if (known.isNull()) known = QProxyStyle::standardIcon(icon, option, widget);
+  return known;
+}
+
 void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                        const QWidget* widget) const {
   if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option); bar && control == CC_TitleBar) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <map>
+
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace orvane {
@@ -19,8 +22,13 @@ class ReadableStyle final : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  // Each is read once.
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
+
+ private:
+  mutable std::map<StandardPixmap, QIcon> icons_;
 };
 
 }  // namespace orvane
