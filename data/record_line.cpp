@@ -71,8 +71,7 @@ std::string_view RecordLine::take(const Field& field, std::size_t length) {
 
 std::string RecordLine::decoded(std::string_view bytes) {
   if (isFaulty()) return fromWindows1252(bytes);
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (inWindows1252(bytes[i])) continue;
+  for (auto i = firstOutsideWindows1252(bytes); i < bytes.size(); i = firstOutsideWindows1252(bytes, i + 1)) {
     faultyField_ = last_.position;
     reading_.fault({FaultKind::Character, last_, last_.column + static_cast<std::int32_t>(i)});
   }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "surface/text.h"
 
@@ -19,18 +21,49 @@ char16_t codePoint(char byte) {
   return code >= 0x80 && code < 0xA0 ? upperControls.at(code - 0x80u) : code;
 }
 
+bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
+// As much room as the characters need that take more than one byte: two, or three among the upper controls.
+std::size_t furtherBytes(std::string_view bytes) {
+  std::size_t count = 0;
+  for (const char byte : bytes) {
+    const auto code = static_cast<unsigned char>(byte);
+    count += static_cast<std::size_t>(code >= 0x80) + static_cast<std::size_t>(code >= 0x80 && code < 0xA0);
+  }
+  return count;
+}
+
+// How many bytes ASCII ends behind, looked at by eight.
+std::size_t asciiAtStart(std::string_view bytes) {
+  constexpr std::uint64_t highBits = 0x8080808080808080;
+  std::size_t count = 0;
+  for (std::uint64_t eight = 0; count + sizeof eight <= bytes.size(); count += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + count, sizeof eight);
+    if ((eight & highBits) != 0) break;
+  }
+  while (count < bytes.size() && isAscii(bytes[count])) ++count;
+  return count;
+}
+
 }  // namespace
 
 bool inWindows1252(char byte) { return byte == '\0' || codePoint(byte) != 0; }
 
+std::size_t firstOutsideWindows1252(std::string_view bytes, std::size_t from) {
+  while (from < bytes.size() && inWindows1252(bytes[from])) from += 1 + asciiAtStart(bytes.substr(from + 1));
+  return from;
+}
+
 std::string fromWindows1252(std::string_view bytes) {
   std::string text;
-  text.reserve(bytes.size());
-  for (const char byte : bytes)
-    if (static_cast<unsigned char>(byte) < 0x80)
-      text += byte;
-    else
-      appendUtf8(text, codePoint(byte));
+  text.reserve(bytes.size() + furtherBytes(bytes));
+  while (!bytes.empty()) {
+    const auto ascii = asciiAtStart(bytes);
+    text.append(bytes.substr(0, ascii));
+    bytes.remove_prefix(ascii);
+    for (; !bytes.empty() && !isAscii(bytes.front()); bytes.remove_prefix(1))
+      appendUtf8(text, codePoint(bytes.front()));
+  }
   return text;
 }
 

@@ -5,7 +5,6 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <sys/file.h>
 #include <thread>
 
@@ -38,27 +37,31 @@ bool look(const std::string& path, struct stat& found, Look how) {
 
 bool isDirectory(const struct stat& found) { return S_ISDIR(found.st_mode); }
 
-void requireReadable(const OpenFile& file, const std::string& path) {
-  struct stat found {};
-  if (!file.stat(found)) fail("Lecture impossible", path);
-  if (isDirectory(found)) fail("Lecture impossible", path, EISDIR);
-  if (!S_ISREG(found.st_mode)) fail("Lecture impossible", path, "ce n'est pas un fichier ordinaire");
-  if (found.st_size > static_cast<off_t>(largestFile)) fail("Lecture impossible", path, std::string(tooLargeFile));
-}
-
-// False where a part was not taken; that ends the reading.
-bool readParts(const std::string& path, const std::function<bool(std::string_view)>& take) {
-  OpenFile file(path, O_RDONLY);
-  if (!file.isOpen()) fail("Lecture impossible", path);
-  requireReadable(file, path);
-  std::array<char, 65536> buffer;
-  while (true) {
-    const ssize_t count = file.read(buffer);
-    if (count < 0) fail("Lecture impossible", path);
-    if (count == 0) return true;
-    if (!take({buffer.data(), static_cast<std::size_t>(count)})) return false;
+// A regular file that is read from its start on.
+class ReadFile {
+ public:
+  explicit ReadFile(const std::string& path) : path_(path), file_(path, O_RDONLY) {
+    if (!file_.isOpen() || !file_.stat(found_)) fail("Lecture impossible", path);
+    if (isDirectory(found_)) fail("Lecture impossible", path, EISDIR);
+    if (!S_ISREG(found_.st_mode)) fail("Lecture impossible", path, "ce n'est pas un fichier ordinaire");
+    if (found_.st_size > static_cast<off_t>(largestFile)) fail("Lecture impossible", path, std::string(tooLargeFile));
   }
-}
+
+  std::size_t size() const { return static_cast<std::size_t>(found_.st_size); }
+
+  // Valid until the next call; empty at the end.
+  std::string_view next() {
+    const ssize_t count = file_.read(buffer_);
+    if (count < 0) fail("Lecture impossible", path_);
+    return {buffer_.data(), static_cast<std::size_t>(count)};
+  }
+
+ private:
+  const std::string& path_;
+  OpenFile file_;
+  struct stat found_ {};
+  std::array<char, 65536> buffer_;
+};
 
 // Not where it is gone by now.
 bool isFolder(const std::filesystem::directory_entry& entry) {
@@ -106,22 +109,23 @@ bool DiskFiles::directoryExists(const std::string& path) {
 }
 
 std::string DiskFiles::read(const std::string& path) {
+  ReadFile file(path);
   std::string bytes;
-  readParts(path, [&](std::string_view part) {
+  bytes.reserve(file.size());
+  for (auto part = file.next(); !part.empty(); part = file.next()) {
     bytes += part;
     if (bytes.size() > largestFile) fail("Lecture impossible", path, std::string(tooLargeFile));
-    return true;
-  });
+  }
   return bytes;
 }
 
 bool DiskFiles::holds(const std::string& path, std::string_view bytes) {
-  const bool alike = readParts(path, [&](std::string_view part) {
+  ReadFile file(path);
+  for (auto part = file.next(); !part.empty(); part = file.next()) {
     if (!bytes.starts_with(part)) return false;
     bytes.remove_prefix(part.size());
-    return true;
-  });
-  return alike && bytes.empty();
+  }
+  return bytes.empty();
 }
 
 std::vector<FolderEntry> DiskFiles::list(const std::string& path) {
