@@ -154,6 +154,16 @@ def check_steps(frame):
     expect_said("a step in a list is told", "accessible-description", "Acrobatie 1, reste 61")
 
 
+def check_dialog(frame):
+    own = frame.get_application()
+    pick_tab(frame, "Contacts")
+    press(need(frame, "push button", "Nouveau"))
+    dialog = need(own, "dialog", "Nouveau contact")
+    expect("the dialog is filled in", lambda: find(dialog, "text", "Nom", "SHOWING"))
+    press(need(dialog, "push button", "Cancel"))
+    expect("it goes", lambda: not find(own, "dialog", "Nouveau contact", "SHOWING"))
+
+
 def check_ticks(frame):
     pick_tab(frame, "Arts Martiaux")
     more = need(frame, "push button", "Un point de plus")
@@ -182,7 +192,7 @@ def main():
     program = subprocess.Popen([sys.argv[1]], cwd=sys.argv[2])
     try:
         frame = open_character(program)
-        for check in (check_roles_and_names, check_rows_of_skills, check_steps, check_ticks, check_marks):
+        for check in (check_roles_and_names, check_rows_of_skills, check_steps, check_dialog, check_ticks, check_marks):
             check(frame)
     finally:
         program.terminate()

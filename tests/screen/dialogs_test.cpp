@@ -22,6 +22,7 @@ class ScreenBoxes : public DesktopFixture {
   std::string shown(BoxStyle style, QMessageBox::StandardButton press) {
     std::string about;
     onceOpen<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
       about = box.windowTitle().toStdString() + "|" + box.text().toStdString() + "|" + std::to_string(box.icon());
       for (auto* button : box.buttons())
         about += "|" + button->text().toStdString() + (button == box.defaultButton() ? "*" : "");

@@ -55,8 +55,9 @@ TEST_F(Views, Texts) {
 
 TEST_F(Views, Combos) {
   auto& list = find<QComboBox>("list");
-  play({{[&] { list.setFocus(Qt::TabFocusReason); }, "+list"},
-        {[&] { roll(list); }, ""},  // the wheel picks nothing
+  play({{[&] { roll(list); }, ""},  // the wheel does not even come to it
+        {[&] { list.setFocus(Qt::TabFocusReason); }, "+list"},
+        {[&] { roll(list); }, ""},  // and picks nothing
         {[&] { choose(list, 1); }, "list:deux"},
         {[&] { choose(list, 1); }, "list:deux"},
         {pressed(Qt::Key_Up, "list"), "list:un"},

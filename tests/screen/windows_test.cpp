@@ -155,6 +155,18 @@ TEST_F(MainWindows, TilesHorizontallyAsRows) {
   EXPECT_NE(windows.childOf(second)->x(), windows.childOf(first)->x());
 }
 
+TEST_F(MainWindows, CascadesBesideTheBarThatScrolls) {
+  start("15000", "12000");
+  const auto sheet = std::make_shared<frmFeuille>(globals());
+  sheet->Show();
+  auto* last = windows.childOf(*sheet);
+  last->resize(2000, 400);
+  menu("mnuWindowCascade");
+  auto& area = mainWindow().area();
+  EXPECT_EQ(last->geometry().right() + 1,
+            area.contentsRect().width() - area.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
 TEST_F(MainWindows, GrowsForAChildAndStaysSo) {
   start();
   EXPECT_EQ(mainWindow().size(), QSize(433, 433));
