@@ -5,7 +5,7 @@ _orvane() {
     *orvane-batch) options+=" --keep-going --pdf --contact-sheet --with --jobs" ;;
     *orvane-check) options+=" --format --sheet" ;;
     *orvane-launch) options+=" --session" ;;
-    *orvane-session) options+=" --shorten" ;;
+    *orvane-session) options+=" --pdf --shorten" ;;
   esac
   if [[ $1 == *orvane-launch ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")

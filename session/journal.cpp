@@ -20,11 +20,11 @@ std::string decimals(float seconds) {
 
 void Journal::begin(std::string act) {
   write();
-  open_ = OpenAct{std::move(act), {}, {}};
+  open_.emplace().lines = std::move(act);
 }
 
-void Journal::leaveOutAsFailed() {
-  if (const auto failed = std::exchange(open_, std::nullopt)) sink_("# échoué : " + failed->lines + "\n");
+void Journal::setFailed(bool failed) {
+  if (open_) open_->failed = failed;
 }
 
 void Journal::answered(BoxStyle style, Answer answer) {
@@ -42,6 +42,7 @@ float Journal::timeOf(float now) {
 void Journal::write() {
   const auto done = std::exchange(open_, std::nullopt);
   if (!done) return;
+  if (done->failed) return sink_("# échoué : " + done->lines + "\n");
   std::string lines;
   if (done->time) lines += "clock " + decimals(*done->time) + "\n";
   if (done->neededAnswers > 0) lines += "answer";

@@ -23,8 +23,8 @@ class Journal {
   void begin(std::string act);
   // The act that is open is not to be written.
   void leaveOut() { open_.reset(); }
-  // The same, but a comment says so.
-  void leaveOutAsFailed();
+  // The open act did nothing that it is to do once more: it becomes a comment that says so.
+  void setFailed(bool failed);
   // What a box of the open act was answered.
   void answered(BoxStyle style, Answer answer);
   // The time that the open act goes by: the first one that it asked for. Outside of any act it is the one given.
@@ -35,6 +35,7 @@ class Journal {
  private:
   struct OpenAct {
     std::string lines;
+    bool failed = false;
     std::optional<float> time;
     std::vector<std::string> answers;
     std::size_t neededAnswers = 0;  // behind these, all boxes got their first button

@@ -29,7 +29,9 @@ Session::Session(const World& present, Journal::Sink sink)
     }
     if (form.isLoaded()) arrive();
   };
-  run_.globals().sheetNotSaved = [this] { journal_.leaveOutAsFailed(); };
+  // Where the pair is saved and its PDF is not, one is told of both.
+  run_.globals().sheetNotSaved = [this] { journal_.setFailed(true); };
+  run_.globals().sheetSaved = [this](const PrintedSheet&) { journal_.setFailed(false); };
 }
 
 void Session::playPast(const Script& past) {

@@ -39,10 +39,11 @@ std::string lineOf(const std::string& text, int number) {
 
 }  // namespace
 
-Evening::Evening(SessionFile& file, Script past, ScreenDialogs& dialogs)
+Evening::Evening(SessionFile& file, Script past, ScreenDialogs& dialogs, bool pdf)
     : file_(file),
       past_(std::move(past)),
       dialogs_(dialogs),
+      pdf_(pdf),
       session_({dialogs, clock_, settings_, files_, pictures_}, [this](const std::string& lines) { write(lines); }),
       windows_(session_.run().desktop(), session_.user()),
       kept_(file.text()) {
@@ -105,6 +106,7 @@ void Evening::tellRefused(const Act& act, const std::string& reason) {
 void Evening::goOn() {
   progress_.reset();
   if (kept_ != file_.text() && !file_.text().empty()) file_.restart(kept_);
+  if (pdf_) session_.run().globals().paperOf = [this](const PrintedSheet& sheet) { return paper_.sheet(sheet); };
   windows_.catchUp();
 }
 

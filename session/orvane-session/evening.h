@@ -8,6 +8,7 @@
 #include <QProgressDialog>
 
 #include "canvas/qt_pictures.h"
+#include "paper/qt_paper.h"
 #include "screen/qt_settings.h"
 #include "screen/screen_dialogs.h"
 #include "screen/windows.h"
@@ -22,7 +23,7 @@ namespace orvane {
 class Evening {
  public:
   // Messages come up on the dialogs. The script is what the file holds.
-  Evening(SessionFile& file, Script past, ScreenDialogs& dialogs);
+  Evening(SessionFile& file, Script past, ScreenDialogs& dialogs, bool pdf);
 
   // The start; in the turns of the event loop that follow, the past.
   void begin();
@@ -44,6 +45,8 @@ class Evening {
   QtSettings settings_;
   DiskFiles files_;
   QtPictures pictures_;
+  QtPaper paper_;
+  const bool pdf_;
   Session session_;
   Windows windows_;
   std::unique_ptr<QProgressDialog> progress_;

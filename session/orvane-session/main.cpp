@@ -1,4 +1,5 @@
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include <QApplication>
@@ -10,11 +11,12 @@
 
 namespace {
 
-constexpr std::string_view usage = "usage : orvane-session FICHIER, ou orvane-session --shorten FICHIER\n";
+constexpr std::string_view usage = "usage : orvane-session [--pdf] FICHIER, ou orvane-session --shorten FICHIER\n";
 constexpr std::string_view help =
     "\nOrvane avec une mémoire : ce que vous faites dans ses fenêtres s'écrit dans FICHIER, un acte par ligne,\n"
     "et la fois d'après tout reprend là où vous en étiez. orvane-batch FICHIER rejoue la même session sans écran.\n"
     "Les données se lisent dans le dossier courant, les feuilles se gardent dans ./Perso.\n\n"
+    "  --pdf      garde aussi chaque feuille en PDF, à côté de ses deux images\n"
     "  --shorten  ne garde que les actes dont le résultat a besoin, s'il est prouvé que ce résultat est le même ;\n"
     "             le fichier d'avant est gardé à côté\n"
     "  --help     cette aide\n"
@@ -28,11 +30,11 @@ int shorten(int argc, char* argv[]) {
   return orvane::shortenSession(argv[2]);
 }
 
-int goOn(int argc, char* argv[]) {
+int goOn(const std::string& path, bool pdf, int argc, char* argv[]) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("Orvane");
   QApplication::setDesktopFileName("orvane");
-  return orvane::runSession(argv[1]);
+  return orvane::runSession(path, pdf);
 }
 
 }  // namespace
@@ -45,7 +47,9 @@ int main(int argc, char* argv[]) {
   }
   orvane::forgetGlyphSettings();
   if (argument == "--shorten" && argc == 3) return shorten(argc, argv);
-  if (argc == 2 && !argument.empty() && !argument.starts_with('-')) return goOn(argc, argv);
+  const bool pdf = argument == "--pdf";
+  const std::string_view path = argc == (pdf ? 3 : 2) ? argv[argc - 1] : "";
+  if (!path.empty() && !path.starts_with('-')) return goOn(std::string(path), pdf, argc, argv);
   std::cerr << usage;
   return 2;
 }

@@ -25,8 +25,8 @@ Script pastOf(SessionFile& file) {
   return parseScript(file.path(), file.text());
 }
 
-int goThrough(SessionFile& file, ScreenDialogs& dialogs) {
-  Evening evening(file, pastOf(file), dialogs);
+int goThrough(SessionFile& file, ScreenDialogs& dialogs, bool pdf) {
+  Evening evening(file, pastOf(file), dialogs, pdf);
   evening.windows().closed = [] { QCoreApplication::quit(); };
   const EndRequests endRequests(evening.windows());
   evening.begin();
@@ -35,14 +35,14 @@ int goThrough(SessionFile& file, ScreenDialogs& dialogs) {
 
 }  // namespace
 
-int runSession(const std::string& path) {
+int runSession(const std::string& path, bool pdf) {
   constexpr int notPlayed = 2;
   prepareDesktop();
   ScreenDialogs dialogs;
   try {
     SessionFile file(path);
     takeTornLineOff(file, dialogs);
-    return goThrough(file, dialogs);
+    return goThrough(file, dialogs, pdf);
   } catch (const ScriptError& error) {
     dialogs.failure("La session ne peut pas être reprise.\r\n" + error.message);
   } catch (const std::exception& error) {
