@@ -24,6 +24,7 @@ void takeEscaped(Line& line, const Field& field, RecordOf<member>& record, const
 }
 
 void takeSkills(Line& line, const Field& field, clsProfil& profil, const ReadingTools&) {
+  profil.colSkillPro.reserve(line.fieldsLeft());
   while (!line.atEnd()) profil.colSkillPro.Add(line.number(field));
 }
 

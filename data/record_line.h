@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include "data/reading.h"
@@ -30,6 +31,8 @@ class RecordLine {
   std::int16_t key(const Field& field);
 
   bool atEnd() const { return rest_.empty(); }
+  // How many fields are left that have a ";" behind them.
+  std::size_t fieldsLeft() const { return static_cast<std::size_t>(std::count(rest_.begin(), rest_.end(), ';')); }
   // False for a blank line, which is a fault: reading may go on, but there is no record.
   bool isRecord() const { return line_.find_first_not_of(' ') != std::string_view::npos; }
   // A fault in the field last taken, or in the line before the first one.

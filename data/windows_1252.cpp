@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "surface/text.h"
-
 namespace orvane {
 namespace {
 
@@ -21,28 +19,45 @@ char16_t codePoint(char byte) {
   return code >= 0x80 && code < 0xA0 ? upperControls.at(code - 0x80u) : code;
 }
 
-bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
-
-// As much room as the characters need that take more than one byte: two, or three among the upper controls.
-std::size_t furtherBytes(std::string_view bytes) {
-  std::size_t count = 0;
-  for (const char byte : bytes) {
-    const auto code = static_cast<unsigned char>(byte);
-    count += static_cast<std::size_t>(code >= 0x80) + static_cast<std::size_t>(code >= 0x80 && code < 0xA0);
-  }
-  return count;
+// Most of a text goes by eights.
+bool startsWithEightOfAscii(std::string_view bytes) {
+  std::uint64_t eight = 0;
+  if (bytes.size() < sizeof eight) return false;
+  std::memcpy(&eight, bytes.data(), sizeof eight);
+  return (eight & 0x8080808080808080) == 0;
 }
 
-// How many bytes ASCII ends behind, looked at by eight.
-std::size_t asciiAtStart(std::string_view bytes) {
-  constexpr std::uint64_t highBits = 0x8080808080808080;
-  std::size_t count = 0;
-  for (std::uint64_t eight = 0; count + sizeof eight <= bytes.size(); count += sizeof eight) {
-    std::memcpy(&eight, bytes.data() + count, sizeof eight);
-    if ((eight & highBits) != 0) break;
+// Gives the place behind the one to three bytes.
+char* putUtf8(char16_t character, char* place) {
+  const auto put = [&place](unsigned byte) { *place++ = static_cast<char>(byte); };
+  if (character < 0x80) {
+    put(character);
+  } else if (character < 0x800) {
+    put(0xC0U | character >> 6);
+    put(0x80U | (character & 0x3FU));
+  } else {
+    put(0xE0U | character >> 12);
+    put(0x80U | (character >> 6 & 0x3FU));
+    put(0x80U | (character & 0x3FU));
   }
-  while (count < bytes.size() && isAscii(bytes[count])) ++count;
-  return count;
+  return place;
+}
+
+// How many bytes are no ASCII, and how many of them are among the upper controls, the only ones that may be no
+// character or take three bytes of UTF-8.
+struct Share {
+  std::size_t beyondAscii = 0;
+  std::size_t upperControls = 0;
+};
+
+Share shareOf(std::string_view bytes) {
+  Share share;
+  for (const char byte : bytes) {
+    const auto code = static_cast<unsigned char>(byte);
+    share.beyondAscii += static_cast<std::size_t>(code >= 0x80);
+    share.upperControls += static_cast<std::size_t>(code >= 0x80 && code < 0xA0);
+  }
+  return share;
 }
 
 }  // namespace
@@ -50,20 +65,26 @@ std::size_t asciiAtStart(std::string_view bytes) {
 bool inWindows1252(char byte) { return byte == '\0' || codePoint(byte) != 0; }
 
 std::size_t firstOutsideWindows1252(std::string_view bytes, std::size_t from) {
-  while (from < bytes.size() && inWindows1252(bytes[from])) from += 1 + asciiAtStart(bytes.substr(from + 1));
+  if (shareOf(bytes.substr(from)).upperControls == 0) return bytes.size();
+  while (from < bytes.size() && inWindows1252(bytes[from])) ++from;
   return from;
 }
 
 std::string fromWindows1252(std::string_view bytes) {
-  std::string text;
-  text.reserve(bytes.size() + furtherBytes(bytes));
+  const Share share = shareOf(bytes);
+  if (share.beyondAscii == 0) return std::string(bytes);
+  std::string text(bytes.size() + share.beyondAscii + share.upperControls, '\0');
+  char* end = text.data();
   while (!bytes.empty()) {
-    const auto ascii = asciiAtStart(bytes);
-    text.append(bytes.substr(0, ascii));
-    bytes.remove_prefix(ascii);
-    for (; !bytes.empty() && !isAscii(bytes.front()); bytes.remove_prefix(1))
-      appendUtf8(text, codePoint(bytes.front()));
+    if (startsWithEightOfAscii(bytes)) {
+      end = std::copy_n(bytes.data(), 8, end);
+      bytes.remove_prefix(8);
+    } else {
+      end = putUtf8(codePoint(bytes.front()), end);
+      bytes.remove_prefix(1);
+    }
   }
+  text.resize(static_cast<std::size_t>(end - text.data()));
   return text;
 }
 

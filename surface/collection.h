@@ -14,6 +14,8 @@ namespace orvane {
 template <class T>
 class Collection {
  public:
+  // Room for that many at once.
+  void reserve(std::size_t count) { items_.reserve(count); }
   void Add(T item) { items_.push_back(std::move(item)); }
 
   // Both fail with a position outside 1 to Count().

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "surface/failure.h"
 #include "surface/text.h"
@@ -13,6 +14,15 @@ namespace orvane {
 namespace {
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// What nearly all numbers are: up to nine digits and nothing else.
+std::optional<int> plainWholeNumber(std::string_view text) {
+  constexpr std::size_t most = 9;
+  if (text.empty() || text.size() > most || !std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
+  int number = 0;
+  for (const char digit : text) number = 10 * number + (digit - '0');
+  return number;
+}
 
 // Reads a number from the left of a text and collects its characters without the blanks inside.
 class NumberScanner {
@@ -91,11 +101,13 @@ double parsed(std::string_view number) {
 }  // namespace
 
 double numericPrefix(std::string_view text) {
+  if (const auto whole = plainWholeNumber(text)) return *whole;
   const std::string number = NumberScanner(text).scan();
   return number.empty() ? 0 : parsed(number);
 }
 
 double strictNumber(std::string_view text) {
+  if (const auto whole = plainWholeNumber(text)) return *whole;
   const std::string content = trimmed(text);
   std::string_view number = content;
   const bool plus = !number.empty() && number.front() == '+';
