@@ -64,6 +64,9 @@ void ListViewView::show() {
 }
 
 void ListViewView::showColumns() {
+  // Told anew, the header lays itself out anew, and the whole list is painted for a change of one row.
+  if (shownColumns_ == list_.ColumnHeaders()) return;
+  shownColumns_ = list_.ColumnHeaders();
   const auto count = std::max<std::size_t>(1, list_.ColumnHeaders().size());
   tree_.setColumnCount(static_cast<int>(count));
   tree_.header()->setSectionResizeMode(QHeaderView::Fixed);
@@ -170,13 +173,19 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   }
 }
 
-int ListViewView::widthOfTexts(int column) const {
+int ListViewView::widthOf(const QString& text, const QFont& font) {
+  if (std::exchange(measuredFont_, tree_.font()) != tree_.font()) widths_ = {};
+  auto& widths = widths_[font.bold() ? 1 : 0];
+  const auto known = widths.constFind(text);
+  return known != widths.constEnd() ? *known : *widths.insert(text, QFontMetrics(font).horizontalAdvance(text));
+}
+
+int ListViewView::widthOfTexts(int column) {
   const int margin = tree_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &tree_) + 1;
   int widest = 0;
   for (int i = 0; i < tree_.topLevelItemCount(); ++i) {
     const auto* item = tree_.topLevelItem(i);
-    const QFontMetrics measures(item->data(column, Qt::FontRole).value<QFont>());
-    widest = std::max(widest, measures.horizontalAdvance(item->text(column)));
+    widest = std::max(widest, widthOf(item->text(column), item->data(column, Qt::FontRole).value<QFont>()));
   }
   return widest + 2 * margin + 2;
 }

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <array>
+#include <optional>
+#include <vector>
+
+#include <QHash>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -26,7 +31,8 @@ class ListViewView final : public View {
   void showSelection();
   void fitColumns();
   void fitWidth();
-  int widthOfTexts(int column) const;
+  int widthOfTexts(int column);
+  int widthOf(const QString& text, const QFont& font);
 
   bool viewportEvent(QEvent& event);
   bool treeEvent(QEvent& event);
@@ -43,6 +49,10 @@ class ListViewView final : public View {
   ListView& list_;
   QTreeWidget& tree_;
   ListItemRef edited_;
+  std::optional<std::vector<ColumnHeader>> shownColumns_;
+  // Of the texts that were in the list, plain and bold, each measured once.
+  std::array<QHash<QString, int>, 2> widths_;
+  QFont measuredFont_;
   // Ends with the view: an editor that is still open hands its text to nobody.
   ListDelegate delegate_{list_.longestLabel(), [this](const QString& text) { endEdit(text); }};
   // The click that brought the focus is none for the name.

@@ -10,6 +10,8 @@ namespace orvane {
 struct ColumnHeader {
   float width = 0;  // twips; 0 hides the column, which still holds its data
   bool rightAligned = false;
+
+  bool operator==(const ColumnHeader&) const = default;
 };
 
 // Rows in columns without captions.
