@@ -247,6 +247,8 @@ std::vector<Row> allRows(const Folders& folders) {
   };
   add(process("start to the shown main window", game, {builtProgram("orvane-to-main-window")}),
       process("an empty QApplication with a QMainWindow", game, {builtProgram("empty-window")}), 1.5);
+  add(process("the same", game, {builtProgram("orvane-to-main-window")}),
+      process("that window with a word in it", game, {builtProgram("empty-window"), "Tessaly"}), 0);
   add(process("orvane-batch on an empty script", game, emptyBatch(folders)),
       process("an empty QGuiApplication", game, {builtProgram("empty-gui")}), 1.1);
   add(beyond("loading eight files of 32000 records", folders, &ProcessCost::seconds), awk(folders), 3.0);
