@@ -21,9 +21,9 @@ void keepFormer(Files& files, const SavedSide& side) {
     files.write(side.nothing, {});
 }
 
-void putInPlace(Files& files, const SaveFolder& folder, const std::array<std::string, 2>& bitmaps) {
+void putInPlace(Files& files, const SaveFolder& folder, const std::array<MakeBitmap, 2>& bitmaps) {
   const auto sides = folder.sides();
-  for (std::size_t i = 0; i < sides.size(); ++i) writeFresh(files, sides[i].fresh, bitmaps[i]);
+  for (std::size_t i = 0; i < sides.size(); ++i) writeFresh(files, sides[i].fresh, bitmaps[i]());
   for (const auto& side : sides) keepFormer(files, side);
   files.sync(folder.path());
   files.sync(sheetFolder);
@@ -88,7 +88,7 @@ std::string undo(Files& files, SaveFolder& folder) {
 
 }  // namespace
 
-SavedPair savePair(Files& files, const std::string& name, const std::array<std::string, 2>& bitmaps,
+SavedPair savePair(Files& files, const std::string& name, const std::array<MakeBitmap, 2>& bitmaps,
                    const MakePaper& paper) {
   SaveFolder folder = SaveFolder::make(files, name);
   try {

@@ -8,7 +8,9 @@
 
 namespace orvane {
 
-// Gives the bytes of the PDF of a sheet, or fails.
+// Each gives the bytes of a file, or fails: of a bitmap, which is too large to be there before it is written, and of
+// the PDF of a sheet.
+using MakeBitmap = std::function<std::string()>;
 using MakePaper = std::function<std::string()>;
 
 // French sentences, mostly none.
@@ -22,7 +24,7 @@ struct SavedPair {
 // taken away, so that none lies beside another pair than its own. Without a paper that is wanted the pair stays.
 // The lock of ./Perso is held, and no other save of that name lies there. Fails with the reason and, where something
 // could not be taken back, with what lies on the disk.
-SavedPair savePair(Files& files, const std::string& name, const std::array<std::string, 2>& bitmaps,
+SavedPair savePair(Files& files, const std::string& name, const std::array<MakeBitmap, 2>& bitmaps,
                    const MakePaper& paper);
 
 }  // namespace orvane

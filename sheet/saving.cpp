@@ -63,7 +63,8 @@ void frmFeuille::saveBoth(SheetFiles& files) {
   const PrintedSheet sheet = printed();
   MakePaper paper;
   if (globals_.paperOf) paper = [&] { return globals_.paperOf(sheet); };
-  const bool isComplete = files.save({pctRecto.Image().bitmap(), pctVerso.Image().bitmap()}, paper);
+  const bool isComplete =
+      files.save({[&] { return pctRecto.Image().bitmap(); }, [&] { return pctVerso.Image().bitmap(); }}, paper);
   if (!isComplete && globals_.sheetNotSaved) globals_.sheetNotSaved();
   if (globals_.sheetSaved) globals_.sheetSaved(sheet);
 }

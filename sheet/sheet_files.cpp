@@ -43,7 +43,7 @@ std::string SheetFiles::whoIsSaved() const {
   return "un personnage";
 }
 
-bool SheetFiles::save(const std::array<std::string, 2>& bitmaps, const MakePaper& paper) {
+bool SheetFiles::save(const std::array<MakeBitmap, 2>& bitmaps, const MakePaper& paper) {
   for (const auto& folder : SaveFolder::findAll(files_))
     if (!folder.isOver() && folder.name() == name_)
       throw Failure("Une sauvegarde interrompue de ce nom n'a pas pu être reprise ; elle est gardée dans " +

@@ -24,7 +24,7 @@ class SheetFiles {
   std::unique_ptr<FolderLock> takeTurn(Dialogs& dialogs);
   // Front and back, both or none: a pair of before is replaced as a whole or stays as it was. Only in one's turn. False
   // where the paper that there was to be beside them is missing; a remark says why.
-  bool save(const std::array<std::string, 2>& bitmaps, const MakePaper& paper);
+  bool save(const std::array<MakeBitmap, 2>& bitmaps, const MakePaper& paper);
 
   // French sentences on what lies in ./Perso that should not.
   const std::vector<std::string>& remarks() const { return remarks_; }

@@ -66,7 +66,7 @@ Told save(Files& files, const Bitmaps& bitmaps, bool withPaper = false) {
     const auto turn = sheet.takeTurn(dialogs);
     MakePaper paper;
     if (withPaper) paper = [&] { return paperOf(bitmaps); };
-    told.hasPaper = sheet.save(bitmaps, paper);
+    told.hasPaper = sheet.save({[&] { return bitmaps[0]; }, [&] { return bitmaps[1]; }}, paper);
     told.saved = true;
   } catch (const Failure& failure) {
     told.texts.push_back(failure.what());

@@ -111,7 +111,7 @@ bool saves(ForgetfulFiles& files) {
     SheetFiles sheetFiles(files, "Luc");
     sheetFiles.makeFolder();
     const auto turn = sheetFiles.takeTurn(dialogs);
-    return sheetFiles.save({fresh[0], fresh[1]}, [] { return fresh[2]; });
+    return sheetFiles.save({[] { return fresh[0]; }, [] { return fresh[1]; }}, [] { return fresh[2]; });
   } catch (const ForgetfulFiles::PowerCut&) {
     return false;
   }
