@@ -53,6 +53,7 @@ void SessionFile::append(const std::string& lines) {
 }
 
 void SessionFile::writeOutstanding() {
+  if (outstanding_.empty()) return;
   const auto atEnd = [&] { return ::lseek(file_->descriptor(), length_, SEEK_SET) == length_; };
   if (!atEnd() || !file_->writeAll(outstanding_) || !file_->flush()) {
     const int reason = errno;

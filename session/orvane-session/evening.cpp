@@ -110,6 +110,14 @@ void Evening::goOn() {
   windows_.catchUp();
 }
 
+void Evening::end() {
+  try {
+    file_.append({});
+  } catch (const std::exception& error) {
+    dialogs_.failure(sentenceOn(error) + "\r\nCe que vous avez fait depuis qu'elle ne s'écrit plus n'y est pas.");
+  }
+}
+
 void Evening::write(const std::string& lines) {
   try {
     file_.append(lines);

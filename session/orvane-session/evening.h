@@ -27,6 +27,8 @@ class Evening {
 
   // The start; in the turns of the event loop that follow, the past.
   void begin();
+  // Tells of lines that the file did not take to the very end.
+  void end();
   Windows& windows() { return windows_; }
   bool isOpen() { return session_.run().mainWindow() != nullptr; }
 

@@ -30,7 +30,10 @@ int goThrough(SessionFile& file, ScreenDialogs& dialogs, bool pdf) {
   evening.windows().closed = [] { QCoreApplication::quit(); };
   const EndRequests endRequests(evening.windows());
   evening.begin();
-  return evening.isOpen() ? QApplication::exec() : 1;
+  if (!evening.isOpen()) return 1;
+  const int status = QApplication::exec();
+  evening.end();
+  return status;
 }
 
 }  // namespace
