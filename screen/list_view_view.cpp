@@ -86,17 +86,20 @@ bool belongsAbove(const ListItem& row) { return row.Text().empty() && row.Index(
 
 }  // namespace
 
+// New items come to the tree as they are to be shown: it tells everybody of what changes later.
 void ListViewView::showRows() {
   while (tree_.topLevelItemCount() > list_.Count()) delete tree_.takeTopLevelItem(tree_.topLevelItemCount() - 1);
-  while (tree_.topLevelItemCount() < list_.Count()) tree_.addTopLevelItem(new QTreeWidgetItem);
+  const int former = tree_.topLevelItemCount();
+  QList<QTreeWidgetItem*> fresh;
   bool stripe = true;
   for (int i = 0; i < list_.Count(); ++i) {
     const ListItem& row = *list_.ListItems(i + 1);
+    auto& item = i < former ? *tree_.topLevelItem(i) : *fresh.emplace_back(new QTreeWidgetItem);
     stripe = belongsAbove(row) ? stripe : !stripe;
-    for (int column = 0; column < tree_.columnCount(); ++column)
-      write(*tree_.topLevelItem(i), column, stripeRole, stripe);
-    showRow(row, *tree_.topLevelItem(i));
+    for (int column = 0; column < tree_.columnCount(); ++column) write(item, column, stripeRole, stripe);
+    showRow(row, item);
   }
+  tree_.addTopLevelItems(fresh);
 }
 
 namespace {
