@@ -86,7 +86,9 @@ BareWindow::BareWindow(const QWidget& model) : place_(model.geometry()), area_(n
     const auto holder = std::find_if(widgets.rbegin(), widgets.rend(),
                                      [&](const auto* other) { return other != widget && other->isAncestorOf(widget); });
     QWidget* above = holder == widgets.rend() ? const_cast<QWidget*>(&model) : *holder;
+    const auto* combo = qobject_cast<const QComboBox*>(widget);
     pieces_.push_back({widget->metaObject()->className(),
+                       combo && combo->isEditable(),
                        static_cast<int>(std::distance(holder, widgets.rend())) - 1,
                        {widget->mapTo(above, QPoint()), widget->size()},
                        widget->isVisibleTo(&model)});
@@ -102,8 +104,9 @@ void BareWindow::open() {
   auto* pane = new QWidget;
   window_->setWidget(pane);
   std::vector<QWidget*> made;
-  for (const auto& [kind, parent, place, visible] : pieces_) {
+  for (const auto& [kind, editable, parent, place, visible] : pieces_) {
     auto* widget = made.emplace_back(makers.at(kind)(parent < 0 ? pane : made[static_cast<std::size_t>(parent)]));
+    if (editable) qobject_cast<QComboBox*>(widget)->setEditable(true);
     widget->setGeometry(place);
     widget->setVisible(visible);
   }

@@ -71,7 +71,8 @@ class BareWindow {
  private:
   struct Piece {
     const char* kind;
-    int parent;  // position of the piece that holds it, -1 for none
+    bool editable;  // a combo box with a line edit in it
+    int parent;     // position of the piece that holds it, -1 for none
     QRect place;
     bool visible;
   };
