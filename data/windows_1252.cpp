@@ -19,12 +19,22 @@ char16_t codePoint(char byte) {
   return code >= 0x80 && code < 0xA0 ? upperControls.at(code - 0x80u) : code;
 }
 
-// Most of a text goes by eights.
-bool startsWithEightOfAscii(std::string_view bytes) {
+// A byte each of eight.
+constexpr std::uint64_t oneEach = 0x0101010101010101;
+constexpr std::uint64_t highBit = 0x80 * oneEach;
+
+// The next eight bytes, or those that are left and zeros.
+std::uint64_t nextEight(std::string_view bytes) {
   std::uint64_t eight = 0;
-  if (bytes.size() < sizeof eight) return false;
-  std::memcpy(&eight, bytes.data(), sizeof eight);
-  return (eight & 0x8080808080808080) == 0;
+  if (bytes.size() >= sizeof eight)
+    std::memcpy(&eight, bytes.data(), sizeof eight);
+  else
+    std::memcpy(&eight, bytes.data(), bytes.size());
+  return eight;
+}
+
+bool startsWithEightOfAscii(std::string_view bytes) {
+  return bytes.size() >= sizeof(std::uint64_t) && (nextEight(bytes) & highBit) == 0;
 }
 
 // Gives the place behind the one to three bytes.
@@ -52,10 +62,13 @@ struct Share {
 
 Share shareOf(std::string_view bytes) {
   Share share;
-  for (const char byte : bytes) {
-    const auto code = static_cast<unsigned char>(byte);
-    share.beyondAscii += static_cast<std::size_t>(code >= 0x80);
-    share.upperControls += static_cast<std::size_t>(code >= 0x80 && code < 0xA0);
+  const auto countOf = [](std::uint64_t highBits) { return static_cast<std::size_t>((highBits >> 7) * oneEach >> 56); };
+  for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), sizeof(std::uint64_t)))) {
+    const std::uint64_t eight = nextEight(bytes);
+    const std::uint64_t beyond = eight & highBit;
+    if (beyond == 0) continue;
+    share.beyondAscii += countOf(beyond);
+    share.upperControls += countOf(beyond & ~(eight << 1) & ~(eight << 2));
   }
   return share;
 }
