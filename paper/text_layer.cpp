@@ -77,10 +77,16 @@ class Line {
   double end_;
 };
 
+// The composition fills a last line up with blanks; a reader who copies it wants none.
+QString withoutBlanksAtItsEnd(QString text) {
+  while (text.endsWith(' ')) text.chop(1);
+  return text;
+}
+
 // One unit of the painter is a pixel of the bitmap.
 void print(QPainter& painter, const PrintedText& printed) {
   const auto& glyphs = SheetGlyphs::ofSize(printed.points);
-  QTextLayout layout(toQt(printed.text), glyphs.font());
+  QTextLayout layout(withoutBlanksAtItsEnd(toQt(printed.text)), glyphs.font());
   layout.beginLayout();
   QTextLine line = layout.createLine();
   layout.endLayout();

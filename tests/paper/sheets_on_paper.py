@@ -14,8 +14,8 @@ TWIPS_IN_A_PIXEL, POINTS_IN_A_PIXEL, FINER = 15, 0.75, 2  # the PDF is drawn at 
 PAGE = (595, 842)  # points
 
 # The mean grey of a square of ten pixels may differ by so much between bitmap and PDF, and over a whole side by so
-# much, in levels of 256: letters are smoothed otherwise. A word too few or a line two pixels off is beyond it.
-SQUARE, WORST_SQUARE, WORST_SIDE = 10, 60, 2.5
+# much, in levels of 256: letters are smoothed otherwise. A form or texts that are two pixels off are beyond it.
+SQUARE, WORST_SQUARE, WORST_SIDE = 10, 45, 2.8
 
 
 def output(*command):

@@ -3,8 +3,11 @@
 #include <stdexcept>
 #include <string>
 
+#include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
+
+#include "sheet/art/render/labels.h"
 
 namespace orvane {
 namespace {
@@ -13,8 +16,7 @@ void load(QSvgRenderer& renderer, const QString& source) {
   if (!renderer.load(source)) throw std::runtime_error("cannot read " + source.toStdString());
 }
 
-void loadPage(QSvgRenderer& renderer, const QString& source, QSize size) {
-  load(renderer, source);
+void requireSize(const QSvgRenderer& renderer, const QString& source, QSize size) {
   if (renderer.viewBoxF() != QRectF(QPointF(0, 0), QSizeF(size)))
     throw std::runtime_error(source.toStdString() + " is not drawn for " + std::to_string(size.width()) + " x " +
                              std::to_string(size.height()) + " pixels");
@@ -36,14 +38,19 @@ QImage draw(QSvgRenderer& renderer, QSize size, const QColor& ground) {
 
 QImage drawPage(const QString& source, QSize size) {
   QSvgRenderer renderer;
-  loadPage(renderer, source, size);
+  load(renderer, source);
+  requireSize(renderer, source, size);
   return draw(renderer, size, Qt::white).convertToFormat(QImage::Format_RGB32);
 }
 
 void paintPage(QPainter& painter, const QString& source, QSize size) {
-  QSvgRenderer renderer;
-  loadPage(renderer, source, size);
+  QFile file(source);
+  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + source.toStdString());
+  const QByteArray svg = file.readAll();
+  QSvgRenderer renderer(withoutLabels(svg));
+  requireSize(renderer, source, size);
   renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+  drawLabels(painter, svg);
 }
 
 QImage drawMark(const QString& source, QSize size) {

@@ -22,7 +22,7 @@ inline constexpr int kIconSides[] = {16, 22, 24, 32, 48, 64, 128, 256, 512};
 // or is not drawn for exactly this size: a form that is scaled has no crisp rules.
 QImage drawPage(const QString& source, QSize size);
 
-// The same page, painted at the painter's origin with one unit to a pixel. Fails as drawPage does.
+// The same page, painted at the painter's origin with one unit to a pixel, its labels as texts. Fails as drawPage does.
 void paintPage(QPainter& painter, const QString& source, QSize size);
 
 // The picture of an SVG source on a transparent ground, scaled to the size. Fails with std::runtime_error if the source
