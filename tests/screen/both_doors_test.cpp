@@ -96,7 +96,7 @@ TEST(BothDoors, LeadToTheSameAndSoDoesTheirRecord) {
     const auto bitmaps = onWidgets.bitmaps();
     expectApproved(script.expected, transcript);
     compared += bitmaps.size();
-    if (!bitmaps.empty()) EXPECT_TRUE(bitmaps == PlayedScript(script).bitmaps());
+    EXPECT_TRUE(bitmaps.empty() || bitmaps == PlayedScript(script).bitmaps());
     if (transcript.ends_with("--- exit status 2\n")) continue;  // nothing was played
     GoldenScript record = script;
     record.script = std::filesystem::path(folder.path()) / (script.name + ".script");
