@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QGlyphRun>
+#include <QHashFunctions>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -108,6 +109,7 @@ void print(QPainter& painter, const PlacedSide& placed) {
 }  // namespace
 
 QByteArray textLayer(const std::vector<PaperPage>& pages) {
+  QHashSeed::setDeterministicGlobalSeed();  // the writer puts several fonts into the order of a hash table
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);

@@ -21,30 +21,40 @@ void keepFormer(Files& files, const SavedSide& side) {
     files.write(side.nothing, {});
 }
 
-void putInPlace(Files& files, const SaveFolder& folder, const std::array<MakeBitmap, 2>& bitmaps) {
+// Tried again where it failed: a former paper that is not out of the way lies beside a new pair, should the program die
+// before the new paper is there. No paper is worth the pair.
+template <class Step>
+bool succeeds(Step step, int tries = 2) try {
+  return step();
+} catch (const std::exception&) {
+  return tries > 1 && succeeds(step, tries - 1);
+}
+
+bool isKept(Files& files, const SavedPaper& paper) {
+  return succeeds([&] { return files.keep(paper.goal, paper.former); });
+}
+
+void takeAway(Files& files, const std::string& paper) {
+  succeeds([&] {
+    files.Kill(paper);
+    return true;
+  });
+}
+
+void putInPlace(Files& files, const SaveFolder& folder, const std::array<MakeBitmap, 2>& bitmaps, bool withPaper) {
   const auto sides = folder.sides();
   for (std::size_t i = 0; i < sides.size(); ++i) writeFresh(files, sides[i].fresh, bitmaps[i]());
   for (const auto& side : sides) keepFormer(files, side);
+  const bool paperGoes = withPaper && isKept(files, folder.paper());
   files.sync(folder.path());
   files.sync(sheetFolder);
   for (const auto& side : sides) files.replace(side.fresh, side.goal);
-}
-
-bool isSetAside(Files& files, const SavedPaper& paper) try {
-  if (files.fileExists(paper.goal)) files.replace(paper.goal, paper.former);
-  return true;
-} catch (const std::exception&) {
-  return false;
-}
-
-// Tried again before it is left: it stays beside a new pair then, should the program die before the new paper is there.
-void setAside(Files& files, const SavedPaper& paper) {
-  if (!isSetAside(files, paper)) isSetAside(files, paper);
+  if (paperGoes) takeAway(files, folder.paper().goal);
 }
 
 void putInPlace(Files& files, const SavedPaper& paper, const MakePaper& make) {
   writeFresh(files, paper.fresh, make());
-  if (files.fileExists(paper.former)) files.takeRights(paper.fresh, paper.former);
+  files.takeRights(paper.fresh, paper.former);
   files.replace(paper.fresh, paper.goal);
   files.sync(sheetFolder);
 }
@@ -92,8 +102,7 @@ SavedPair savePair(Files& files, const std::string& name, const std::array<MakeB
                    const MakePaper& paper) {
   SaveFolder folder = SaveFolder::make(files, name);
   try {
-    putInPlace(files, folder, bitmaps);
-    if (paper) setAside(files, folder.paper());
+    putInPlace(files, folder, bitmaps, paper != nullptr);
     folder.end();
   } catch (const std::exception& failure) {
     const std::string reason = sentenceOn(failure);

@@ -128,9 +128,11 @@ def require_a_reader_is_served(pdf, character, player, pages):
         require(embedded == unicode == "yes", f"{pdf.name}: {font}")
 
 
-def example(work, name):
-    """An example that also tells what is printed."""
+def example(work, name, **others):
+    """An example that also tells what is printed, with other names in it."""
     script = (SOURCES / "examples" / name).read_text()
+    for one, other in others.items():
+        script = script.replace(one.replace("_", " "), other)
     told = work / name
     told.write_text(script.replace("click cmdSave(0)", "printed pctRecto\nprinted pctVerso\nclick cmdSave(0)"))
     return told
@@ -153,6 +155,17 @@ def sheet_is_as_its_bitmaps(work):
         require(texts > 150, f"only {texts} texts were looked for")
         play(work / (name + "-again"), "--pdf", script)
         require(pdf.read_bytes() == (work / (name + "-again") / "Perso" / pdf.name).read_bytes(), "other bytes the second time")
+
+
+def letters_of_other_fonts_are_the_same_bytes_too(work):
+    script = example(work, "patrouille.script", Camille="ნინო", Anne_Ravel="Чехов ნინო (é)")
+    runs = [work / str(i) for i in range(5)]
+    for folder in runs:
+        require(play(folder, "--pdf", script).returncode == 0, "not played")
+    pdf = runs[0] / "Perso/Чехов ნინო (é).pdf"
+    require_a_reader_is_served(pdf, "Чехов ნინო (é)", "ნინო", 2)
+    require("Чехов ნინო (é)" in squeezed(output("pdftotext", "-layout", pdf, "-").decode()), "the name is not found")
+    require(len({(folder / "Perso" / pdf.name).read_bytes() for folder in runs}) == 1, "other bytes in another run")
 
 
 def table_gives_the_same_with_jobs(work):
@@ -191,7 +204,12 @@ def pair_stays_where_no_pdf_can_be(work):
 
 
 with tempfile.TemporaryDirectory() as name:
-    for check in (sheet_is_as_its_bitmaps, table_gives_the_same_with_jobs, pair_stays_where_no_pdf_can_be):
+    for check in (
+        sheet_is_as_its_bitmaps,
+        letters_of_other_fonts_are_the_same_bytes_too,
+        table_gives_the_same_with_jobs,
+        pair_stays_where_no_pdf_can_be,
+    ):
         folder = Path(name) / check.__name__
         folder.mkdir()
         check(folder)
