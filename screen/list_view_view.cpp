@@ -23,6 +23,8 @@ bool isHidden(const ListView& list, int column) {
   return list.ColumnHeaders()[static_cast<std::size_t>(column)].width <= 0;
 }
 
+bool isList(QWidget* widget) { return qobject_cast<QAbstractItemView*>(widget) != nullptr; }
+
 }  // namespace
 
 ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
@@ -43,7 +45,10 @@ ListViewView::ListViewView(ListView& list, QTreeWidget& tree, FormView& form)
   on(&secondClick_, &QTimer::timeout, [this] { beginEdit(); });
   onEvent(*tree_.viewport(), [this](QEvent& event) { return viewportEvent(event); });
   onEvent(tree_, [this](QEvent& event) { return treeEvent(event); });
-  on(qApp, &QApplication::focusChanged, [this] { tree_.viewport()->update(); });
+  // Which list the arrows act on can be seen, and is up to where the keyboard is, as far as that is a list.
+  on(qApp, &QApplication::focusChanged, [this](QWidget* former, QWidget* now) {
+    if (isList(former) || isList(now)) tree_.viewport()->update();
+  });
   // With the mouse seen to above, only keys, type-ahead and screen readers move the current row.
   on(&tree_, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) { clickRow(item); });
 }
