@@ -110,6 +110,11 @@ void SheetGlyphs::draw(const Glyph& glyph, QPoint start, QImage& picture) {
 }
 
 const SheetGlyphs::Glyph* SheetGlyphs::take(std::string_view& text) {
+  // Most characters are ASCII and known.
+  if (const auto byte = static_cast<unsigned char>(text.front()); byte < 0x80 && glyphs_[byte]) {
+    text.remove_prefix(1);
+    return &*glyphs_[byte];
+  }
   const char16_t character = takeCharacter(text);
   const auto place = placeOf(character);
   if (!place) return nullptr;
