@@ -107,9 +107,7 @@ void TabControlView::settle() {
   auto* bar = widget_.tabBar();
   for (int i = 0; i < widget_.count() && i < tabs_.Tabs(); ++i) {
     const Colour mark = worstOn(i);
-    QStringList words{markInWords(mark), toQt(tabs_.form().tabHint(tabs_, i))};
-    words.removeAll(QString());
-    const QString said = words.join(", ");
+    const QString said = inOneHint({markInWords(mark), toQt(tabs_.form().tabHint(tabs_, i))});
     if (bar->tabToolTip(i) == said && bar->tabIcon(i).isNull() == markInWords(mark).isEmpty()) continue;
     bar->setTabIcon(i, markIcon(mark, bar->palette()));
     bar->setTabToolTip(i, said);

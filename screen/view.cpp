@@ -22,6 +22,13 @@ class EventHook : public QObject {
 
 }  // namespace
 
+QString inOneHint(QStringList words) {
+  words.removeAll(QString());
+  QString hint = words.value(0);
+  for (const auto& next : words.mid(1)) hint += (next.front().isUpper() ? ". " : ", ") + next;
+  return hint;
+}
+
 View::View(Control& control, QWidget& widget, FormView& form)
     : control_(control), widget_(widget), form_(form), designHint_(widget.toolTip()) {
   control_.watch(*this);
@@ -49,9 +56,8 @@ void View::act(const Deed& deed) {
 }
 
 void View::settle() {
-  QStringList words{designHint_, markInWords(backColorOf(control_)), toQt(control_.form().hint(control_))};
-  words.removeAll(QString());
-  const QString hint = words.join(", ");
+  const QString hint =
+      inOneHint({designHint_, markInWords(backColorOf(control_)), toQt(control_.form().hint(control_))});
   if (widget_.toolTip() != hint) widget_.setToolTip(hint);
 }
 

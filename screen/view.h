@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QStringList>
 #include <QWidget>
 
 #include "screen/screen_door.h"
@@ -13,6 +14,9 @@ namespace orvane {
 
 class CommandButton;
 class FormView;
+
+// Some of which may be empty, as one text: sentences behind a full stop, all else behind a comma.
+QString inOneHint(QStringList words);
 
 // The widget of one control. The control is the truth: a view reads it when it has changed, and turns what the user
 // does into acts; it keeps nothing of its own.

@@ -36,7 +36,7 @@ TEST_F(Telling, HintsSayWhatAStepCostsOrWhyThereIsNone) {
   const auto hint = [&](const char* name) { return find<QWidget>(character, name).toolTip(); };
   EXPECT_EQ(hint("txtLangRest"), "0 à 5, 1 point par degré");
   EXPECT_EQ(hint("cmdCaractModif_1"), "Un point de plus, -2 à 3, 1 point par pas");
-  EXPECT_EQ(hint("cmdContactModif_1"), "Un point de plus, Choisir d'abord un contact");
+  EXPECT_EQ(hint("cmdContactModif_1"), "Un point de plus. Choisir d'abord un contact");
   const auto* bar = find<QTabWidget>(character, "SSTabPerso").tabBar();
   EXPECT_EQ(bar->tabToolTip(4), "");
   perform([&] { user.pick(character.cmbProfil, 4); });
