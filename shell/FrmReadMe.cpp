@@ -16,12 +16,11 @@ FrmReadMe::FrmReadMe(Desktop& desktop) : Form(desktop, {.name = "FrmReadMe", .ca
 }
 
 void FrmReadMe::Form_Load() {
-  if (!desktop().world().files.fileExists(fileName)) {
-    rtbReadMe.setText("Fichier " + fileName + " manquant.");
-    return;
-  }
   try {
-    rtbReadMe.LoadFile(fileName, RtfReader::html);
+    if (desktop().world().files.fileExists(fileName))
+      rtbReadMe.LoadFile(fileName, RtfReader::html);
+    else
+      rtbReadMe.setText("Fichier " + fileName + " manquant.");
   } catch (const Failure& failure) {
     rtbReadMe.setText("Fichier " + fileName + " illisible : " + failure.what());
   }
