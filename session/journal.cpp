@@ -20,7 +20,9 @@ std::string decimals(float seconds) {
 
 void Journal::begin(std::string act) {
   write();
-  open_.emplace().lines = std::move(act);
+  OpenAct begun;
+  begun.lines = std::move(act);
+  open_ = std::move(begun);
 }
 
 void Journal::setFailed(bool failed) {
