@@ -87,11 +87,11 @@ void Windows::noteVacated(const ChildWindow& window) {
   QTimer::singleShot(0, main_.get(), [this] { vacated_.reset(); });
 }
 
-// A sheet stands beside its character where there is room.
+// A sheet stands beside its character, the window in front until now, where there is room.
 QPoint Windows::cornerFor(const ChildWindow& window) const {
-  const auto* active = desktop_.activeChild() ? childOf(*desktop_.activeChild()) : nullptr;
-  if (!active || active->isMinimized() || !window.form().isResizable()) return freeCorner(window.size());
-  const QRect beside(active->geometry().topRight() + QPoint(1, 0), window.size());
+  const auto* front = main_->area().currentSubWindow();
+  if (!front || front->isMinimized() || !window.form().isResizable()) return freeCorner(window.size());
+  const QRect beside(front->geometry().topRight() + QPoint(1, 0), window.size());
   const QSize room = main_->largestRoom();
   const bool fits = beside.right() < room.width() && beside.bottom() < room.height();
   return fits ? beside.topLeft() : freeCorner(window.size());
