@@ -56,11 +56,12 @@ std::string greyBitmap(const QImage& picture) {
   const std::size_t rowSize = (width * 3 + 3) / 4 * 4;
   const std::size_t size = rowSize * static_cast<std::size_t>(picture.height());
   std::string bytes = headOf(picture, static_cast<std::uint32_t>(size));
-  bytes.resize(headSize + size, '\xFF');
-  char* row = bytes.data() + headSize;
-  for (int y = picture.height() - 1; y >= 0; --y, row += rowSize) {
-    spreadRow(picture.constScanLine(y), width, row);
-    std::memset(row + width * 3, 0, rowSize - width * 3);
+  bytes.reserve(headSize + size);
+  std::string row(rowSize, '\0');
+  for (int y = picture.height() - 1; y >= 0; --y) {
+    std::memset(row.data(), 0xFF, width * 3);
+    spreadRow(picture.constScanLine(y), width, row.data());
+    bytes += row;
   }
   return bytes;
 }
