@@ -12,6 +12,12 @@ QString onOneLine(QString text) {
   return text.replace(blanks, " ").remove(control);
 }
 
+bool comesByKeyboard(Qt::FocusReason reason, const QLineEdit& edit) {
+  // The first field of a window that opens.
+  if (reason == Qt::ActiveWindowFocusReason) return !edit.isModified() && edit.cursorPosition() == 0;
+  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
 }  // namespace
 
 void keepToOneLine(QLineEdit& edit) {
@@ -25,9 +31,7 @@ void keepToOneLine(QLineEdit& edit) {
 }
 
 bool enteredAtEnd(QWidget& holder, QLineEdit& edit, const QEvent& event) {
-  if (event.type() != QEvent::FocusIn) return false;
-  const auto reason = static_cast<const QFocusEvent&>(event).reason();
-  if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason && reason != Qt::ShortcutFocusReason)
+  if (event.type() != QEvent::FocusIn || !comesByKeyboard(static_cast<const QFocusEvent&>(event).reason(), edit))
     return false;
   QFocusEvent selectingNothing(QEvent::FocusIn, Qt::OtherFocusReason);
   static_cast<QObject&>(holder).event(&selectingNothing);

@@ -10,9 +10,9 @@ namespace orvane {
 // become blanks, other control characters vanish. To be called ahead of connections that read the text of the edit.
 void keepToOneLine(QLineEdit& edit);
 
-// True for an event that brings the keyboard by Tab or by a letter, and that has been seen to here: the cursor stands
-// behind the text, of which nothing is selected, so that no key replaces it by accident. The holder is the widget that
-// gets the event, the edit itself or the combo around it.
+// True for an event that brings the keyboard by Tab, by a letter or with a window that opens, and that has been seen to
+// here: the cursor stands behind the text, of which nothing is selected, so that no key replaces it by accident. The
+// holder is the widget that gets the event, the edit itself or the combo around it.
 bool enteredAtEnd(QWidget& holder, QLineEdit& edit, const QEvent& event);
 
 }  // namespace orvane

@@ -50,7 +50,12 @@ TEST_F(Views, Texts) {
         {[&] { form->text.setEnabled(true); }, ""},
         {[&] { text.setFocus(Qt::TabFocusReason); }, "-list +text"},
         {[&] { text.insert("\r\na\tb\x1b\n"); }, "text=axb a b "},
-        {[&] { EXPECT_EQ(text.cursorPosition(), 8); }, ""}});
+        {[&] { EXPECT_EQ(text.cursorPosition(), 8); }, ""},
+        // Nor where a window begins.
+        {[&] { text.clearFocus(); }, ""},
+        {[&] { form->text.setText("quatre"); }, "text=quatre"},
+        {[&] { text.setFocus(Qt::ActiveWindowFocusReason); }, ""},
+        {[&] { EXPECT_EQ(text.cursorPosition(), 6); }, ""}});
 }
 
 TEST_F(Views, Combos) {
