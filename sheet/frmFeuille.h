@@ -4,6 +4,7 @@
 #include <string>
 
 #include "editor/globals.h"
+#include "sheet/pair_save.h"
 #include "surface/command_button.h"
 #include "surface/form.h"
 #include "surface/option_button.h"
@@ -15,6 +16,7 @@
 namespace orvane {
 
 class SheetFiles;
+struct clsMutation;
 
 // The window of one character's sheet: two pictures that texts were printed on, of which one is shown.
 class frmFeuille : public Form {
@@ -99,8 +101,11 @@ class frmFeuille : public Form {
   // False where that failed, which is told, or the user keeps the files of before.
   bool triesToSave(SheetFiles& files);
   bool saveFiles(SheetFiles& files);
-  void saveBoth(SheetFiles& files);
+  MakePaper paperAhead();
+  void saveBoth(SheetFiles& files, const MakePaper& paper);
   bool mayOverwrite();
+  // Null for none, or none any more.
+  const clsMutation* powerToPrint() const;
   void printDrawnPower();
 
   Globals& globals_;

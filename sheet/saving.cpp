@@ -1,3 +1,5 @@
+#include <future>
+
 #include "editor/frmPersonnage.h"
 #include "sheet/drawn_power.h"
 #include "sheet/frmFeuille.h"
@@ -46,11 +48,12 @@ bool frmFeuille::triesToSave(SheetFiles& files) {
 
 bool frmFeuille::saveFiles(SheetFiles& files) {
   files.makeFolder();
+  const MakePaper paper = paperAhead();
   for (bool mayReplace = false;; mayReplace = true) {
     auto turn = files.takeTurn(desktop().world().dialogs);
     if (mayReplace || !files.frontExists()) {
       printDrawnPower();
-      saveBoth(files);
+      saveBoth(files, paper);
       return true;
     }
     // No other program waits for the answer.
@@ -59,14 +62,20 @@ bool frmFeuille::saveFiles(SheetFiles& files) {
   }
 }
 
-void frmFeuille::saveBoth(SheetFiles& files) {
-  const PrintedSheet sheet = printed();
-  MakePaper paper;
-  if (globals_.paperOf) paper = [&] { return globals_.paperOf(sheet); };
+// Made while no other program waits for its turn, unless a power is still to be printed on it. What fails is told by
+// the save, in which nothing is put at risk by it.
+MakePaper frmFeuille::paperAhead() {
+  if (!globals_.paperOf) return nullptr;
+  const std::shared_future made = std::async(std::launch::deferred, [this] { return globals_.paperOf(printed()); });
+  if (!powerToPrint()) made.wait();
+  return [made] { return made.get(); };
+}
+
+void frmFeuille::saveBoth(SheetFiles& files, const MakePaper& paper) {
   const bool isComplete =
       files.save({[&] { return pctRecto.Image().bitmap(); }, [&] { return pctVerso.Image().bitmap(); }}, paper);
   if (!isComplete && globals_.sheetNotSaved) globals_.sheetNotSaved();
-  if (globals_.sheetSaved) globals_.sheetSaved(sheet);
+  if (globals_.sheetSaved) globals_.sheetSaved(printed());
 }
 
 bool frmFeuille::confirmed() {
@@ -83,13 +92,18 @@ bool frmFeuille::mayOverwrite() {
              BoxStyle::YesNo) == Answer::Yes;
 }
 
-void frmFeuille::printDrawnPower() {
+const clsMutation* frmFeuille::powerToPrint() const {
   const auto* frmPerso = characterOf(*this);
-  if (drawnPowerPrinted_ || !frmPerso || frmPerso->mutationState() != frmPersonnage::MutationState::DrawnPower) return;
-  const auto* power = frmPerso->selectedPower();
+  if (drawnPowerPrinted_ || !frmPerso || frmPerso->mutationState() != frmPersonnage::MutationState::DrawnPower)
+    return nullptr;
+  return frmPerso->selectedPower();
+}
+
+void frmFeuille::printDrawnPower() {
+  const auto* power = powerToPrint();
   if (!power) return;
   drawnPowerPrinted_ = true;
-  orvane::printDrawnPower(*this, *frmPerso, *power);
+  orvane::printDrawnPower(*this, *characterOf(*this), *power);
 }
 
 }  // namespace orvane
