@@ -20,10 +20,10 @@ struct SavedPair {
 };
 
 // Writes both bitmaps of a character and puts them in place as one: a pair of before is replaced as a whole or stays.
-// Once they are there for good, the paper, where one is wanted, is asked for and put beside them; before, a former one is
-// taken away, so that none lies beside another pair than its own. Without a paper that is wanted the pair stays.
-// The lock of ./Perso is held, and no other save of that name lies there. Fails with the reason and, where something
-// could not be taken back, with what lies on the disk.
+// Once they are there for good, the paper, where one is wanted, is asked for and put beside them; before, a former one
+// is taken away, so that none lies beside another pair than its own. Without a paper that is wanted the pair stays. The
+// lock of ./Perso is held, and no other save of that name lies there. Fails with the reason and, where something could
+// not be taken back, with what lies on the disk.
 SavedPair savePair(Files& files, const std::string& name, const std::array<MakeBitmap, 2>& bitmaps,
                    const MakePaper& paper);
 
