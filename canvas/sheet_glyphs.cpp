@@ -82,6 +82,11 @@ SheetGlyphs::SheetGlyphs(float points)
 std::optional<int> SheetGlyphs::width(std::string_view text) {
   int width = 0;
   while (!text.empty()) {
+    if (const auto byte = static_cast<unsigned char>(text.front()); byte < asciiWidths_.size() && asciiWidths_[byte]) {
+      width += asciiWidths_[byte];
+      text.remove_prefix(1);
+      continue;
+    }
     const Glyph* glyph = take(text);
     if (!glyph) return std::nullopt;
     width += glyph->width;
@@ -120,6 +125,7 @@ const SheetGlyphs::Glyph* SheetGlyphs::take(std::string_view& text) {
   if (!place) return nullptr;
   auto& glyph = glyphs_[*place];
   if (!glyph) glyph = made(character);
+  if (*place < asciiWidths_.size()) asciiWidths_[*place] = glyph->width;
   return &*glyph;
 }
 

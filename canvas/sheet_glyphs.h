@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -44,6 +45,7 @@ class SheetGlyphs {
   QFont font_;
   QFontMetricsF metrics_;
   std::vector<std::optional<Glyph>> glyphs_;
+  std::array<int, 128> asciiWidths_{};  // 0 until it is known: lines are measured again with each word
 };
 
 }  // namespace orvane

@@ -63,10 +63,10 @@ class ReadFile {
   std::array<char, 65536> buffer_;
 };
 
-// Not where it is gone by now.
+// Most disks tell it in the list. Not where it is gone by now.
 bool isFolder(const std::filesystem::directory_entry& entry) {
-  struct stat found {};
-  return look(entry.path(), found, ::lstat) && isDirectory(found);
+  std::error_code error;
+  return !entry.is_symlink(error) && entry.is_directory(error);
 }
 
 std::vector<FolderEntry> entriesOf(const std::string& path, std::error_code& error) {
