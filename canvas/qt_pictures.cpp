@@ -1,5 +1,6 @@
 #include "canvas/qt_pictures.h"
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -15,11 +16,24 @@ static void keepArtLinked() { Q_INIT_RESOURCE(art); }
 namespace orvane {
 namespace {
 
+// Of a picture in Format_RGB32 whose colours are all greys.
+QImage greyed(const QImage& picture) {
+  QImage grey(picture.size(), QImage::Format_Grayscale8);
+  grey.setDotsPerMeterX(picture.dotsPerMeterX());
+  grey.setDotsPerMeterY(picture.dotsPerMeterY());
+  for (int y = 0; y < picture.height(); ++y) {
+    const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+    std::transform(from, from + picture.width(), grey.scanLine(y), [](QRgb pixel) { return qRed(pixel); });
+  }
+  return grey;
+}
+
 QImage decoded(std::string_view name) {
   keepArtLinked();
-  const QImage picture(QStringLiteral(":/art/%1.bmp").arg(toQt(name)));
-  if (picture.isNull()) throw Failure("Il n'y a pas d'image \"" + std::string(name) + "\" dans le programme.");
-  return picture.convertToFormat(picture.allGray() ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
+  const QImage stored(QStringLiteral(":/art/%1.bmp").arg(toQt(name)));
+  if (stored.isNull()) throw Failure("Il n'y a pas d'image \"" + std::string(name) + "\" dans le programme.");
+  const QImage picture = stored.convertToFormat(QImage::Format_RGB32);
+  return picture.allGray() ? greyed(picture) : picture;
 }
 
 const QImage& stored(std::string_view name) {

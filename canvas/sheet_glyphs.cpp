@@ -50,13 +50,16 @@ char16_t takeCharacter(std::string_view& text) {
   return static_cast<char16_t>(character);
 }
 
-bool isInk(QRgb pixel) { return qGray(pixel) != 255; }
+// Of a picture in Format_RGB32.
+uchar greyAt(const QImage& picture, int x, int y) {
+  return static_cast<uchar>(qGray(reinterpret_cast<const QRgb*>(picture.constScanLine(y))[x]));
+}
 
 QRect inkOf(const QImage& picture) {
   QRect ink;
   for (int y = 0; y < picture.height(); ++y)
     for (int x = 0; x < picture.width(); ++x)
-      if (isInk(picture.pixel(x, y))) ink |= QRect(x, y, 1, 1);
+      if (greyAt(picture, x, y) != 255) ink |= QRect(x, y, 1, 1);
   return ink;
 }
 
@@ -80,18 +83,15 @@ SheetGlyphs::SheetGlyphs(float points)
     : font_(sheetFont(points)), metrics_(font_), glyphs_(endOfLatin + signs.size()) {}
 
 std::optional<int> SheetGlyphs::width(std::string_view text) {
-  int width = 0;
-  while (!text.empty()) {
-    if (const auto byte = static_cast<unsigned char>(text.front()); byte < asciiWidths_.size() && asciiWidths_[byte]) {
-      width += asciiWidths_[byte];
-      text.remove_prefix(1);
-      continue;
-    }
-    const Glyph* glyph = take(text);
+  const bool goesOn = text.starts_with(measured_);
+  int width = goesOn ? measuredWidth_ : 0;
+  for (auto rest = text.substr(goesOn ? measured_.size() : 0); !rest.empty();) {
+    const Glyph* glyph = take(rest);
     if (!glyph) return std::nullopt;
     width += glyph->width;
   }
-  return width;
+  measured_ = text;
+  return measuredWidth_ = width;
 }
 
 bool SheetGlyphs::draw(std::string_view text, QPoint start, QImage& picture) {
@@ -125,7 +125,6 @@ const SheetGlyphs::Glyph* SheetGlyphs::take(std::string_view& text) {
   if (!place) return nullptr;
   auto& glyph = glyphs_[*place];
   if (!glyph) glyph = made(character);
-  if (*place < asciiWidths_.size()) asciiWidths_[*place] = glyph->width;
   return &*glyph;
 }
 
@@ -141,8 +140,7 @@ SheetGlyphs::Glyph SheetGlyphs::made(char16_t character) const {
   const QRect ink = inkOf(picture);
   Glyph glyph{static_cast<int>(metrics_.horizontalAdvance(QChar(character))), ink.translated(-start), {}};
   for (int y = ink.top(); y <= ink.bottom(); ++y)
-    for (int x = ink.left(); x <= ink.right(); ++x)
-      glyph.mask.push_back(static_cast<std::uint8_t>(qGray(picture.pixel(x, y))));
+    for (int x = ink.left(); x <= ink.right(); ++x) glyph.mask.push_back(greyAt(picture, x, y));
   return glyph;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -45,7 +45,9 @@ class SheetGlyphs {
   QFont font_;
   QFontMetricsF metrics_;
   std::vector<std::optional<Glyph>> glyphs_;
-  std::array<int, 128> asciiWidths_{};  // 0 until it is known: lines are measured again with each word
+  // The last text and its width: a line that is broken is measured again with each word.
+  std::string measured_;
+  int measuredWidth_ = 0;
 };
 
 }  // namespace orvane
