@@ -51,12 +51,13 @@ QAccessibleInterface* spokenWindow(const QString&, QObject* object) {
 
 }  // namespace
 
-ChildWindow::ChildWindow(Form& form, ScreenDoor& door) : door_(door), pane_(new QWidget) {
+// In its place before it has contents, which would be told of each new place and measured for it.
+ChildWindow::ChildWindow(Form& form, ScreenDoor& door, QMdiArea& area) : door_(door), pane_(new QWidget(this)) {
   QAccessible::installFactory(spokenWindow);
+  area.addSubWindow(this, frameFlags(form.isResizable()));
+  setWidget(pane_);
   layOut(form, *pane_);
   design_ = pane_->size();
-  setWidget(pane_);
-  setWindowFlags(frameFlags(form.isResizable()));
   setWindowIcon(QIcon(":/art/icons/orvane-16.png"));
   setObjectName(toQt(form.Name()) + "_window");
   // Qt would close the window by keys of its own, also while the user types.

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 
 #include "screen/form_view.h"
@@ -11,7 +12,7 @@ namespace orvane {
 // A child window of the main window. It closes when its form is unloaded, and not before.
 class ChildWindow final : public QMdiSubWindow {
  public:
-  ChildWindow(Form& form, ScreenDoor& door);
+  ChildWindow(Form& form, ScreenDoor& door, QMdiArea& area);
 
   Form& form() const { return view_->form(); }
   // Takes the size that the form is designed for, or, where a form of a fixed size has something to scroll, a larger

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QFocusEvent>
+#include <QHash>
 #include <QScopedValueRollback>
 
 #include "canvas/qt_text.h"
@@ -29,8 +30,10 @@ FormView::FormView(Form& form, QWidget& root, ScreenDoor& door)
 FormView::~FormView() { detach(); }
 
 void FormView::makeViews() {
+  QHash<QString, QWidget*> widgets;
+  for (auto* widget : root_.findChildren<QWidget*>()) widgets.insert(widget->objectName(), widget);
   for (auto* control : form_->controls())
-    if (auto view = makeView(*control, *this)) views_.push_back(std::move(view));
+    if (auto view = makeView(*control, widgets.value(widgetName(*control)), *this)) views_.push_back(std::move(view));
 }
 
 void FormView::followFocus() {

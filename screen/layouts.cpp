@@ -46,9 +46,9 @@ void measureAnew(QWidget& window) {
   auto parts = window.findChildren<QWidget*>();
   std::reverse(parts.begin(), parts.end());
   for (auto* part : parts << &window) {
-    if (part->layout()) part->layout()->invalidate();
-    if (part->layout()) part->layout()->activate();
-    part->updateGeometry();
+    if (!part->layout()) continue;
+    part->layout()->invalidate();
+    part->layout()->activate();
   }
 }
 

@@ -1,6 +1,7 @@
 #include "screen/list_view_view.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
 #include <QAccessible>
@@ -119,10 +120,10 @@ QFont cellFont(const QWidget& list, bool bold) {
   return font;
 }
 
-bool isNumber(const QString& text) {
-  bool number = false;
-  text.toDouble(&number);
-  return number;
+bool isNumber(std::string_view text) {
+  double number = 0;
+  const char* end = text.data() + text.size();
+  return std::from_chars(text.data(), end, number).ptr == end && !text.empty();
 }
 
 std::string nameOf(const ListView& list, const ListItem& row) {
@@ -132,13 +133,13 @@ std::string nameOf(const ListView& list, const ListItem& row) {
 // The number that comes first is the level; 0 where there is none.
 int levelColumn(const ListView& list, const ListItem& row) {
   for (int column = 1; column <= row.subItemCount(); ++column)
-    if (!isHidden(list, column) && isNumber(toQt(row.SubItems(column)))) return column;
+    if (!isHidden(list, column) && isNumber(row.SubItems(column))) return column;
   return 0;
 }
 
-QString spokenCell(const QString& text, bool isLevel) {
-  if (!isNumber(text)) return text;
-  return (isLevel ? "niveau " : "base ") + text;
+QString spokenCell(const std::string& text, bool isLevel) {
+  if (!isNumber(text)) return toQt(text);
+  return (isLevel ? "niveau " : "base ") + toQt(text);
 }
 
 // "Tir, niveau 3": what a screen reader says of a row.
@@ -148,8 +149,8 @@ QString spokenRow(const ListView& list, const ListItem& row) {
   if (row.Bold()) said << "compétence du profil";
   const int level = levelColumn(list, row);
   for (int column = 1; column <= row.subItemCount(); ++column) {
-    const QString text = toQt(row.SubItems(column));
-    if (isHidden(list, column) || text.isEmpty()) continue;
+    const std::string text = row.SubItems(column);
+    if (isHidden(list, column) || text.empty()) continue;
     if (!isNumber(text) || column == level) said << spokenCell(text, true);
   }
   return said.join(", ");
@@ -171,8 +172,8 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
     if (isHidden(list_, column)) continue;  // nobody is to read it
     const bool right = list_.ColumnHeaders()[static_cast<std::size_t>(column)].rightAligned;
     const Qt::Alignment side = right ? Qt::AlignRight : Qt::AlignLeft;
-    const QString text = toQt(row.SubItems(column));
-    write(item, column, Qt::DisplayRole, text);
+    const std::string text = row.SubItems(column);
+    write(item, column, Qt::DisplayRole, toQt(text));
     write(item, column, Qt::AccessibleTextRole, spokenCell(text, column == level));
     write(item, column, Qt::ToolTipRole, tree_.headerItem()->toolTip(column));
     write(item, column, Qt::TextAlignmentRole, static_cast<int>(side | Qt::AlignVCenter));
@@ -181,19 +182,32 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   }
 }
 
-int ListViewView::widthOf(const QString& text, const QFont& font) {
-  if (std::exchange(measuredFont_, tree_.font()) != tree_.font()) widths_ = {};
-  auto& widths = widths_[font.bold() ? 1 : 0];
-  const auto known = widths.constFind(text);
-  return known != widths.constEnd() ? *known : *widths.insert(text, QFontMetrics(font).horizontalAdvance(text));
+namespace {
+
+// Of the texts that were in a list of that font, plain and bold, each measured once.
+struct KnownWidths {
+  QFont font;
+  std::array<QHash<QString, int>, 2> widths;
+};
+
+int widthOf(const QString& text, const QFont& font, const QFont& fontOfList) {
+  // Never destroyed: fonts do not outlive their application, and it is gone before this would be.
+  static auto& known = *new KnownWidths;
+  if (known.font != fontOfList) known = {fontOfList, {}};
+  auto& widths = known.widths[font.bold() ? 1 : 0];
+  const auto found = widths.constFind(text);
+  return found != widths.constEnd() ? *found : *widths.insert(text, QFontMetrics(font).horizontalAdvance(text));
 }
 
-int ListViewView::widthOfTexts(int column) {
+}  // namespace
+
+int ListViewView::widthOfTexts(int column) const {
   const int margin = tree_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &tree_) + 1;
   int widest = 0;
   for (int i = 0; i < tree_.topLevelItemCount(); ++i) {
     const auto* item = tree_.topLevelItem(i);
-    widest = std::max(widest, widthOf(item->text(column), item->data(column, Qt::FontRole).value<QFont>()));
+    const auto font = item->data(column, Qt::FontRole).value<QFont>();
+    widest = std::max(widest, widthOf(item->text(column), font, tree_.font()));
   }
   return widest + 2 * margin + 2;
 }

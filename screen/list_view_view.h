@@ -31,8 +31,7 @@ class ListViewView final : public View {
   void showSelection();
   void fitColumns();
   void fitWidth();
-  int widthOfTexts(int column);
-  int widthOf(const QString& text, const QFont& font);
+  int widthOfTexts(int column) const;
 
   bool viewportEvent(QEvent& event);
   bool treeEvent(QEvent& event);
@@ -50,9 +49,6 @@ class ListViewView final : public View {
   QTreeWidget& tree_;
   ListItemRef edited_;
   std::optional<std::vector<ColumnHeader>> shownColumns_;
-  // Of the texts that were in the list, plain and bold, each measured once.
-  std::array<QHash<QString, int>, 2> widths_;
-  QFont measuredFont_;
   // Ends with the view: an editor that is still open hands its text to nobody.
   ListDelegate delegate_{list_.longestLabel(), [this](const QString& text) { endEdit(text); }};
   // The click that brought the focus is none for the name.

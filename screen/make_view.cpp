@@ -56,9 +56,8 @@ constexpr Maker makers[] = {
 
 }  // namespace
 
-std::unique_ptr<View> makeView(Control& control, FormView& form) {
+std::unique_ptr<View> makeView(Control& control, QWidget* widget, FormView& form) {
   if (dynamic_cast<const Shape*>(&control)) return nullptr;  // its picture paints it
-  auto* widget = form.root().findChild<QWidget*>(widgetName(control));
   if (!widget) missing(control, "");
   for (const auto& maker : makers)
     if (auto view = maker(control, *widget, form)) return view;

@@ -7,7 +7,7 @@
 namespace orvane {
 
 // The view of a control on the widget of its name. None for a shape, which has no widget.
-// Throws std::logic_error when the layout has no widget of that name and of a class that suits the kind.
-std::unique_ptr<View> makeView(Control& control, FormView& form);
+// Throws std::logic_error where the layout has none, and for one of a class that does not suit the kind.
+std::unique_ptr<View> makeView(Control& control, QWidget* widget, FormView& form);
 
 }  // namespace orvane

@@ -55,8 +55,7 @@ void Windows::showChild(Form& form) {
   const QScopedValueRollback following(following_, true);
   auto* window = childOf(form);
   if (!window) {
-    window = new ChildWindow(form, door_);
-    main_->area().addSubWindow(window, window->windowFlags());
+    window = new ChildWindow(form, door_, main_->area());
     place(*window);
     children_.push_back(window);
   }
