@@ -47,8 +47,12 @@ ProcessCost runProcess(const std::vector<std::string>& command) {
   rusage used{};
   ::wait4(process, &status, 0, &used);
   if (status != 0) throw std::runtime_error(command.front() + " failed: " + output);
-  return {seconds(used.ru_utime) + seconds(used.ru_stime), static_cast<double>(used.ru_maxrss) * 1024,
-          std::move(output)};
+  return {seconds(used.ru_utime) + seconds(used.ru_stime), std::move(output)};
+}
+
+double peakOf(std::vector<std::string> command) {
+  command.insert(command.begin(), builtProgram("peak-of"));
+  return std::stod(runProcess(command).output);
 }
 
 std::string builtProgram(const std::string& name) {

@@ -5,15 +5,16 @@
 
 namespace orvane::bench {
 
-// What a whole process cost.
 struct ProcessCost {
-  double seconds;    // of the processors
-  double peakBytes;  // resident
+  double seconds;  // of the processors
   std::string output;
 };
 
 // Runs a program in the current directory. Its last output counts; fails where its exit status is not 0.
 ProcessCost runProcess(const std::vector<std::string>& command);
+
+// The most bytes that it had resident.
+double peakOf(std::vector<std::string> command);
 
 // A program of ours, by its name.
 std::string builtProgram(const std::string& name);

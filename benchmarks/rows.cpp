@@ -25,24 +25,33 @@ constexpr double sheet = 1.0 / 150;
 
 // --- Processes
 
-ProcessCost runIn(const Path& folder, const std::vector<std::string>& command) {
+using Command = std::vector<std::string>;
+
+ProcessCost runIn(const Path& folder, const Command& command) {
   const Inside inside(folder);
   return runProcess(command);
 }
 
-Side process(std::string name, const Path& folder, const std::vector<std::string>& command) {
-  return {std::move(name), [=]() -> Work { return [=] { return runIn(folder, command).seconds; }; }};
+double secondsIn(const Path& folder, const Command& command) { return runIn(folder, command).seconds; }
+
+double peakIn(const Path& folder, const Command& command) {
+  const Inside inside(folder);
+  return peakOf(command);
 }
 
-std::vector<std::string> emptyBatch(const Folders& folders) {
-  return {builtProgram("orvane-batch"), folders.emptyScript().string()};
+using Cost = double (*)(const Path& folder, const Command& command);
+
+Side process(std::string name, const Path& folder, const Command& command) {
+  return {std::move(name), [=]() -> Work { return [=] { return secondsIn(folder, command); }; }};
 }
+
+Command emptyBatch(const Folders& folders) { return {builtProgram("orvane-batch"), folders.emptyScript().string()}; }
 
 // What a process costs in one folder beyond what it costs in another one.
-Side beyond(std::string name, const Folders& folders, double ProcessCost::*cost) {
+Side beyond(std::string name, const Folders& folders, Cost cost) {
   return {std::move(name), [&folders, cost]() -> Work {
             return [large = folders.records(many), small = folders.records(1), batch = emptyBatch(folders), cost] {
-              return runIn(large, batch).*cost - runIn(small, batch).*cost;
+              return cost(large, batch) - cost(small, batch);
             };
           }};
 }
@@ -50,7 +59,7 @@ Side beyond(std::string name, const Folders& folders, double ProcessCost::*cost)
 Side awk(const Folders& folders) {
   const std::string reading = "awk -F';' '{ fields += NF } END { print fields }' *.txt";
   return {"awk -F';'", [&folders, reading]() -> Work {
-            return [large = folders.records(many), reading] { return runIn(large, {"sh", "-c", reading}).seconds; };
+            return [large = folders.records(many), reading] { return secondsIn(large, {"sh", "-c", reading}); };
           }};
 }
 
@@ -63,10 +72,10 @@ Side bytesOfFiles(const Folders& folders) {
           }};
 }
 
-ProcessCost playTable(const Folders& folders, int rows) {
+double playTable(const Folders& folders, int rows, Cost cost) {
   write(folders.game() / "rows.csv", Character::table(rows));
-  return runIn(folders.game(),
-               {builtProgram("orvane-batch"), "--with", "rows.csv", Character(folders.sources()).file().string()});
+  return cost(folders.game(),
+              {builtProgram("orvane-batch"), "--with", "rows.csv", Character(folders.sources()).file().string()});
 }
 
 constexpr int fewSheets = 20;
@@ -75,22 +84,21 @@ constexpr int manySheets = 120;
 Side oneSheetOfMany(const Folders& folders) {
   return {"a sheet more in orvane-batch, without the sync", [&folders]() -> Work {
             return [&folders] {
-              const double difference = playTable(folders, manySheets).seconds - playTable(folders, fewSheets).seconds;
-              return difference / (manySheets - fewSheets);
+              const auto cost = [&](int sheets) { return playTable(folders, sheets, secondsIn); };
+              return (cost(manySheets) - cost(fewSheets)) / (manySheets - fewSheets);
             };
           }};
 }
 
 Side peakOfSheets(const Folders& folders, int rows) {
   return {"memory of orvane-batch for " + std::to_string(rows) + " sheets",
-          [&folders, rows]() -> Work { return [&folders, rows] { return playTable(folders, rows).peakBytes; }; }};
+          [&folders, rows]() -> Work { return [&folders, rows] { return playTable(folders, rows, peakIn); }; }};
 }
 
 Side windowWithSheet(const Folders& folders) {
   return {"memory of a character window with its sheet", [&folders]() -> Work {
             return [&folders] {
-              const auto command = {builtProgram("orvane-bench"), std::string("--weigh-windows"),
-                                    folders.sources().string()};
+              const Command command = {builtProgram("orvane-bench"), "--weigh-windows", folders.sources().string()};
               return std::stod(runIn(folders.game(), command).output);
             };
           }};
@@ -251,7 +259,7 @@ std::vector<Row> allRows(const Folders& folders) {
       process("that window with a word in it", game, {builtProgram("empty-window"), "Tessaly"}), 0);
   add(process("orvane-batch on an empty script", game, emptyBatch(folders)),
       process("an empty QGuiApplication", game, {builtProgram("empty-gui")}), 1.1);
-  add(beyond("loading eight files of 32000 records", folders, &ProcessCost::seconds), awk(folders), 3.0);
+  add(beyond("loading eight files of 32000 records", folders, secondsIn), awk(folders), 3.0);
   auto linear = loading(folders, few);
   linear.name = "32 times as long as 1000 records";
   add(loading(folders, many), std::move(linear), 1.2);
@@ -263,8 +271,7 @@ std::vector<Row> allRows(const Folders& folders) {
   add(pickProfile(folders, 16000), pickProfile(folders, 1000), 24);
   add(arrow(folders), constant("one frame of 16 ms", frame), 0.1);
   add(windowWithSheet(folders), constant("4.5 MiB", windowBytes), 1.0, memory);
-  add(beyond("memory for eight files of 32000 records", folders, &ProcessCost::peakBytes), bytesOfFiles(folders), 1.5,
-      memory);
+  add(beyond("memory for eight files of 32000 records", folders, peakIn), bytesOfFiles(folders), 1.5, memory);
   add(oneSheetOfMany(folders), constant("150 sheets a second", sheet), 1.0);
   add(peakOfSheets(folders, manySheets), peakOfSheets(folders, fewSheets), 1.05, memory);
   add(character("the same sheet on the disk, with all syncs, waiting included", sources, folders.gameOnDisk(),
