@@ -30,15 +30,11 @@ std::string placeOf(const Table& table, std::size_t row) {
   return table.file + ":" + std::to_string(table.rows[row].line) + ": ";
 }
 
-std::vector<RowScripts> scriptsOf(const Table& table, const std::vector<ScriptText>& texts, bool keepGoing) {
-  for (const auto& [name, text] : texts) requireColumnsOf(table, name, text);
-  std::vector<RowScripts> rows;
-  for (const auto& row : table.rows) {
-    rows.push_back(scriptsOf(table, row, texts));
-    if (!keepGoing && !rows.back().fault.empty())
-      throw ScriptError{placeOf(table, rows.size() - 1) + rows.back().fault};
-  }
-  return rows;
+// Parsed for that alone: the scripts of all rows at once would need as much memory as there are rows.
+void requireAllParsed(const Table& table, const std::vector<ScriptText>& texts) {
+  for (std::size_t row = 0; row < table.rows.size(); ++row)
+    if (const auto fault = scriptsOf(table, table.rows[row], texts).fault; !fault.empty())
+      throw ScriptError{placeOf(table, row) + fault};
 }
 
 RunResult playRow(const RowScripts& row, PlayerParts parts) {
@@ -66,7 +62,8 @@ class NoProgress : public Progress {
 
 int playTable(const Table& table, const std::vector<ScriptText>& texts, TableOptions options, std::ostream& out,
               std::ostream& err, PlayerParts parts) {
-  const auto rows = scriptsOf(table, texts, options.keepGoing);
+  for (const auto& [name, text] : texts) requireColumnsOf(table, name, text);
+  if (!options.keepGoing) requireAllParsed(table, texts);
   NoProgress none;
   Progress& progress = parts.progress ? *parts.progress : none;
   int worst = status::done;
@@ -77,12 +74,12 @@ int playTable(const Table& table, const std::vector<ScriptText>& texts, TableOpt
     if (auto* sheets = parts.savedSheets) sheets->insert(sheets->end(), result.sheets.begin(), result.sheets.end());
     err << result.notices;
     if (result.status != status::done) err << placeOf(table, row) << wordsOn(result.status) << std::endl;
-    progress.show(++row, rows.size());
+    progress.show(++row, table.rows.size());
     worst = std::max(worst, result.status);
     return options.keepGoing || worst == status::done;
   };
-  playInOrder(
-      rows.size(), options.jobs, [&](std::size_t i) { return playRow(rows[i], parts); }, take);
+  const auto play = [&](std::size_t i) { return playRow(scriptsOf(table, table.rows[i], texts), parts); };
+  playInOrder(table.rows.size(), options.jobs, play, take);
   progress.hide();
   return worst;
 }
