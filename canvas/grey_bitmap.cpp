@@ -47,11 +47,11 @@ ORVANE_BY_VECTORS void spread(const uchar* greys, std::size_t count, char* pixel
   std::size_t i = 0;
   for (Sixteen g; i + sizeof g <= count; i += sizeof g, pixels += 3 * sizeof g) {
     std::memcpy(&g, greys + i, sizeof g);
-    const std::array<Sixteen, 3> spread = {
+    const std::array<Sixteen, 3> three = {
         __builtin_shufflevector(g, g, 0, 0, 0, 1, 1, 1, 2, 2, 2, 3, 3, 3, 4, 4, 4, 5),
         __builtin_shufflevector(g, g, 5, 5, 6, 6, 6, 7, 7, 7, 8, 8, 8, 9, 9, 9, 10, 10),
         __builtin_shufflevector(g, g, 10, 11, 11, 11, 12, 12, 12, 13, 13, 13, 14, 14, 14, 15, 15, 15)};
-    std::memcpy(pixels, &spread, sizeof spread);
+    std::memcpy(pixels, &three, sizeof three);
   }
   for (; i < count; ++i, pixels += 3) std::memset(pixels, greys[i], 3);
 }

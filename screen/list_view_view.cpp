@@ -184,17 +184,22 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
 
 namespace {
 
-// Of the texts that were in a list of that font, plain and bold, each measured once.
-struct KnownWidths {
-  QFont font;
-  std::array<QHash<QString, int>, 2> widths;
-};
+// By text, plain and bold.
+using Widths = std::array<QHash<QString, int>, 2>;
 
-int widthOf(const QString& text, const QFont& font, const QFont& fontOfList) {
-  // Never destroyed: fonts do not outlive their application, and it is gone before this would be.
-  static auto& known = *new KnownWidths;
-  if (known.font != fontOfList) known = {fontOfList, {}};
-  auto& widths = known.widths[font.bold() ? 1 : 0];
+// Each text is measured once for all lists of a font. No font is kept, for none outlives its application.
+Widths& knownWidths(const QFont& font) {
+  static QString measuredFont;
+  static Widths widths;
+  if (const QString key = font.key(); key != measuredFont) {
+    measuredFont = key;
+    widths = {};
+  }
+  return widths;
+}
+
+int widthOf(const QString& text, const QFont& font, Widths& known) {
+  auto& widths = known[font.bold() ? 1 : 0];
   const auto found = widths.constFind(text);
   return found != widths.constEnd() ? *found : *widths.insert(text, QFontMetrics(font).horizontalAdvance(text));
 }
@@ -203,11 +208,11 @@ int widthOf(const QString& text, const QFont& font, const QFont& fontOfList) {
 
 int ListViewView::widthOfTexts(int column) const {
   const int margin = tree_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &tree_) + 1;
+  auto& known = knownWidths(tree_.font());
   int widest = 0;
   for (int i = 0; i < tree_.topLevelItemCount(); ++i) {
     const auto* item = tree_.topLevelItem(i);
-    const auto font = item->data(column, Qt::FontRole).value<QFont>();
-    widest = std::max(widest, widthOf(item->text(column), font, tree_.font()));
+    widest = std::max(widest, widthOf(item->text(column), item->data(column, Qt::FontRole).value<QFont>(), known));
   }
   return widest + 2 * margin + 2;
 }

@@ -5,7 +5,7 @@
 namespace orvane {
 
 // Asks for the room of minimumContentsLength characters and some air, whatever its entries. Qt has a policy for that,
-// which makes the list that is to come up at once: a tenth of the time to open a character.
+// but with it each combo makes its list while the window opens, long before anybody asks for one.
 class SteadyCombo final : public QComboBox {
  public:
   using QComboBox::QComboBox;
