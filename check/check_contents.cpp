@@ -39,8 +39,8 @@ class ContentsCheck {
   }
 
  private:
-  template <class Member, class Record>
-  void checkRecords(const Collection<Member>& records, const RecordFormat<Record>& format) {
+  template <class Record>
+  void checkRecords(const Collection<Record>& records, const RecordFormat<Record>& format) {
     if (!folder_.wasRead(format.file)) return;
     if (records.Count() == 0) folder_.findings.add(noRecord, {format.file}, "aucun enregistrement");
     if (records.Count() > mostRecords)
@@ -48,12 +48,12 @@ class ContentsCheck {
                            "au-delà de 32767 enregistrements, les règles ne comptent plus");
     std::unordered_map<std::string, std::int32_t> known;
     for (std::int32_t i = 1; i <= records.Count(); ++i) {
-      const auto [former, isNew] = known.try_emplace(groupOf(*records(i)) + foldedName(records(i)->sName), i);
-      if (!isNew && !isDoubled(*records(former->second), *records(i)))
-        findAlike(format.file, records(former->second)->sName, former->second, records(i)->sName, i);
-      checkReturns(records(i)->sName, false, folder_.places.of(format.file, i, "sName"));
-      if constexpr (requires { records(i)->sDescro; })
-        checkReturns(records(i)->sDescro, takesReturns<Record>, folder_.places.of(format.file, i, "sDescro"));
+      const auto [former, isNew] = known.try_emplace(groupOf(records(i)) + foldedName(records(i).sName), i);
+      if (!isNew && !isDoubled(records(former->second), records(i)))
+        findAlike(format.file, records(former->second).sName, former->second, records(i).sName, i);
+      checkReturns(records(i).sName, false, folder_.places.of(format.file, i, "sName"));
+      if constexpr (requires { records(i).sDescro; })
+        checkReturns(records(i).sDescro, takesReturns<Record>, folder_.places.of(format.file, i, "sDescro"));
     }
   }
 
@@ -117,7 +117,7 @@ class ContentsCheck {
     return !identity.empty() && identity == identityOf(former);
   }
 
-  void findAlike(std::string_view file, const std::string& former, std::int32_t formerAt, const std::string& name,
+  void findAlike(std::string_view file, std::string_view former, std::int32_t formerAt, std::string_view name,
                  std::int32_t at) {
     const std::string line = std::to_string(folder_.places.of(file, formerAt, "sName").line);
     const bool isSworn = file == profilFormat.file && name == clsProfil::swornName;
@@ -128,21 +128,21 @@ class ContentsCheck {
                                               ", que par des blancs ou la casse");
   }
 
-  template <class Member, class Record>
-  void checkRepetitions(const Collection<Member>& records, const RecordFormat<Record>& format, const FindingKind& kind,
+  template <class Record>
+  void checkRepetitions(const Collection<Record>& records, const RecordFormat<Record>& format, const FindingKind& kind,
                         const std::string& consequence) {
     constexpr auto member = identityMember(static_cast<const Record*>(nullptr));
     std::unordered_map<std::string, std::int32_t> known;
     for (std::int32_t i = 1; i <= records.Count(); ++i) {
       const auto place = folder_.places.of(format.file, i, member);
       if (!place.isSound) continue;
-      const auto identity = identityOf(*records(i));
+      const auto identity = identityOf(records(i));
       const auto [former, isNew] = known.try_emplace(identity, i);
       if (!isNew)
         folder_.findings.add(kind, place,
                              identity.substr(0, identity.find(' ')) + " est déjà à la ligne " +
                                  std::to_string(folder_.places.of(format.file, former->second, member).line) +
-                                 (records(former->second)->sName == records(i)->sName ? ", avec le même nom" : "") +
+                                 (records(former->second).sName == records(i).sName ? ", avec le même nom" : "") +
                                  " : " + consequence);
     }
   }
@@ -151,7 +151,7 @@ class ContentsCheck {
   void checkFixedKeys() {
     std::set<std::int16_t> missing(namedKeys.begin(), namedKeys.end());
     missing.insert(martialSkillKey);
-    for (const auto& skill : folder_.data.colSkill) missing.erase(skill->iKey);
+    for (const auto& skill : folder_.data.colSkill) missing.erase(skill.iKey);
     for (const auto key : missing)
       if (!folder_.isDoubtful(skillFormat.file, key))
         folder_.findings.add(missingKey, {skillFormat.file},
@@ -159,19 +159,18 @@ class ContentsCheck {
   }
 
   void checkTechnicsOfArts() {
-    std::unordered_set<const clsMartialTechnic*> used;
+    std::unordered_set<std::int16_t> used;
     std::unordered_set<std::int16_t> keys;
     for (const auto& art : folder_.data.colMartialArt)
-      for (std::int32_t i = 1; i <= art->colMartialTechnic.Count(); ++i)
-        used.insert(std::as_const(*art).colMartialTechnic(i).get());
+      for (std::int32_t i = 1; i <= art.colMartialTechnic.Count(); ++i) used.insert(art.colMartialTechnic(i)->iKey);
     for (std::int32_t i = 1; i <= folder_.technics.Count(); ++i) {
       const auto& technic = folder_.technics(i);
       if (!folder_.places.of(martialTechnicFormat.file, i, "iKey").isSound) continue;
-      const bool isFirstOfKey = keys.insert(technic->iKey).second;
-      const bool isUsed = used.count(technic.get()) > 0 || folder_.isDoubtful(martialArtFormat.file, technic->iKey);
+      const bool isFirstOfKey = keys.insert(technic.iKey).second;
+      const bool isUsed = used.count(technic.iKey) > 0 || folder_.isDoubtful(martialArtFormat.file, technic.iKey);
       if (isFirstOfKey && !isUsed)
         folder_.findings.add(unusedTechnic, folder_.places.of(martialTechnicFormat.file, i, "sName"),
-                             quoted(technic->sName) + " n'est dans aucun art martial");
+                             quoted(technic.sName) + " n'est dans aucun art martial");
     }
   }
 
@@ -188,8 +187,8 @@ class ContentsCheck {
   void findRepeatedTechnics() {
     for (const auto& [place, key] : folder_.repeatedTechnics)
       for (const auto& technic : folder_.technics)
-        if (technic->iKey == key) {
-          folder_.findings.add(repeatedTechnic, place, quoted(technic->sName) + " est citée deux fois dans cet art");
+        if (technic.iKey == key) {
+          folder_.findings.add(repeatedTechnic, place, quoted(technic.sName) + " est citée deux fois dans cet art");
           break;
         }
   }

@@ -41,7 +41,7 @@ class MartialCheck {
 
   void checkTypes() {
     for (std::int32_t i = 1; i <= folder_.technics.Count(); ++i) {
-      const auto& type = folder_.technics(i)->sType;
+      const auto& type = folder_.technics(i).sType;
       if (type != offensive.technicType && type != defensive.technicType)
         folder_.findings.add(unknownType, folder_.places.of(martialTechnicFormat.file, i, "sType"),
                              quoted(type) + " n'est ni « o » ni « d » : la technique ne se voit nulle part");
@@ -50,7 +50,7 @@ class MartialCheck {
 
   void checkRestrictions() {
     for (std::int32_t i = 1; i <= folder_.data.colMartialArt.Count(); ++i) {
-      const auto& art = *folder_.data.colMartialArt(i);
+      const auto& art = folder_.data.colMartialArt(i);
       const bool hasRule = art.iRestrictO != 0 && art.iRestrictD != 0;
       if (hasRule && findEffect(i, art)) continue;
       if (art.iRestrictO < 0)

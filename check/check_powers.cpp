@@ -31,7 +31,7 @@ class PowerCheck {
     const auto& offered = trial_.window().cmbGrade;
     for (std::int32_t i = offered.ListCount() + 1; i <= folder_.data.colGrade.Count(); ++i)
       folder_.findings.add(unreachableGrade, folder_.places.of(gradeFormat.file, i, "sName"),
-                           quoted(folder_.data.colGrade(i)->sName) + " : seuls les " +
+                           quoted(folder_.data.colGrade(i).sName) + " : seuls les " +
                                std::to_string(offered.ListCount()) + " premiers grades sont proposés");
   }
 
@@ -42,7 +42,7 @@ class PowerCheck {
       checkList(categories.List(i));
     }
     for (std::int32_t i = 1; i <= folder_.data.colMutation.Count(); ++i)
-      if (offered_.count(i) == 0) findWhyNotOffered(i, *folder_.data.colMutation(i));
+      if (offered_.count(i) == 0) findWhyNotOffered(i, folder_.data.colMutation(i));
   }
 
  private:
@@ -66,7 +66,7 @@ class PowerCheck {
   }
 
   void checkNumber(std::int32_t position, const std::string& entry) {
-    const auto& power = *folder_.data.colMutation(position);
+    const auto& power = folder_.data.colMutation(position);
     const auto place = folder_.places.of(mutationFormat.file, position, "iNum");
     const std::string number = std::to_string(power.iNum);
     if (number.size() > numberWidth)

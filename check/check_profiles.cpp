@@ -36,8 +36,7 @@ class ProfileCheck {
   ProfileCheck(DataFolder& folder, const Offer& offer, Pictures& pictures)
       : folder_(folder), data_(folder.data), offer_(offer), pictures_(pictures), index_(folder) {
     for (const auto& skill : data_.colSkill)
-      nameless_.push_back(std::make_shared<clsSkill>(
-          clsSkill{.iKey = skill->iKey, .sName = {}, .iStart = skill->iStart, .sDescro = {}}));
+      nameless_.push_back({.iKey = skill.iKey, .sName = {}, .iStart = skill.iStart, .sDescro = {}});
     placedFor_.resize(nameless_.size() + 1);
   }
 
@@ -45,7 +44,7 @@ class ProfileCheck {
     if (offer_.profiles.empty())
       folder_.findings.add(noProfile, {profilFormat.file}, "aucun profil à choisir à côté d'« Assermenté »");
     for (const auto profile : offer_.profiles)
-      if ((!data_.colProfil(profile)->bAsserm || data_.iProfilAsserm > 0) && tryProfile(profile))
+      if ((!data_.colProfil(profile).bAsserm || data_.iProfilAsserm > 0) && tryProfile(profile))
         applicable_.profiles.push_back(profile);
     findClashes();
     return applicable_;
@@ -55,7 +54,7 @@ class ProfileCheck {
   // Whether it can be applied with every vehicle.
   bool tryProfile(std::int32_t profile) {
     elements_ = elements(profile);
-    if (data_.colProfil(profile)->bAsserm)
+    if (data_.colProfil(profile).bAsserm)
       for (const auto& element : elements(data_.iProfilAsserm)) elements_.push_back(element);
     auto data = dataFor(profile);
     if (trial_)
@@ -99,14 +98,14 @@ class ProfileCheck {
     ReferenceData data;
     data.colEthnie = least_.colEthnie;
     data.colProfil.Add(data_.colProfil(profile));
-    if (data_.colProfil(profile)->bAsserm) {
+    if (data_.colProfil(profile).bAsserm) {
       data.colProfil.Add(data_.colProfil(data_.iProfilAsserm));
       data.iProfilAsserm = 2;
     }
     rows_.clear();
     for (const auto skill : positions) {
       data.colSkill.Add(skill == 0 ? unlisted_ : nameless_[static_cast<std::size_t>(skill) - 1]);
-      if (data.colSkill(data.colSkill.Count())->iKey != vehicleCode) rows_.push_back(skill);
+      if (data.colSkill(data.colSkill.Count()).iKey != vehicleCode) rows_.push_back(skill);
     }
     return data;
   }
@@ -137,7 +136,7 @@ class ProfileCheck {
     const auto& skills = index_.positionsOf(martialSkillKey);
     if (skills.empty()) return;
     const auto [lowest, highest] =
-        levelLimits(*data_.colSkill(skills.front()), !elementsFor(martialSkillKey, vehicle).empty());
+        levelLimits(data_.colSkill(skills.front()), !elementsFor(martialSkillKey, vehicle).empty());
     const double left = number(trial_->window().txtSkillRest) + pointsWithoutPower;
     const double points = number(trial_->window().txtMartialArtRest) + std::min(std::max(highest - lowest, 0.0), left);
     applicable_.martialPoints = std::max(applicable_.martialPoints, points);
@@ -147,7 +146,7 @@ class ProfileCheck {
   void noteCost(const Vehicle* vehicle) {
     double cost = 0;
     for (const auto position : rows_) {
-      const auto& skill = *data_.colSkill(position);
+      const auto& skill = data_.colSkill(position);
       if (elementsFor(skill.iKey, vehicle).empty()) continue;
       cost += profileSkillCost(skill.iStart) + (skill.iKey == martialSkillKey ? martialSkillExtraCost : 0);
     }
@@ -156,9 +155,9 @@ class ProfileCheck {
 
   void findUnpaid(std::int32_t profile) {
     folder_.findings.add(poolTooSmall, folder_.places.of(profilFormat.file, profile, "sName"),
-                         quoted(data_.colProfil(profile)->sName) + " coûte " + listed(costs_) +
-                             ", et il n'y en a que " + numberText(skillPoolBase) + " (" +
-                             numberText(skillPoolBase + pointsWithoutPower) + " sans pouvoir mutant)");
+                         quoted(data_.colProfil(profile).sName) + " coûte " + listed(costs_) + ", et il n'y en a que " +
+                             numberText(skillPoolBase) + " (" + numberText(skillPoolBase + pointsWithoutPower) +
+                             " sans pouvoir mutant)");
   }
 
   void findRepeatedCode(std::int32_t profile) {
@@ -171,11 +170,11 @@ class ProfileCheck {
   }
 
   void findRedundant(std::int32_t profile, std::int32_t skill, std::size_t again, const Vehicle* vehicle) {
-    const auto named = elementsFor(data_.colSkill(skill)->iKey, vehicle);
+    const auto named = elementsFor(data_.colSkill(skill).iKey, vehicle);
     const bool byVehicle =
         std::any_of(named.begin(), named.end(), [](const auto& element) { return element.key == vehicleCode; });
     if (byVehicle && !vehicle->isInPlace) return;
-    const std::string name = quoted(data_.colSkill(skill)->sName);
+    const std::string name = quoted(data_.colSkill(skill).sName);
     const std::string redundant = name + " est redondante";
     const std::string with = withVehicle(byVehicle ? vehicle : nullptr);
     if (isClash(profile, named, again))
@@ -204,7 +203,7 @@ class ProfileCheck {
   // Where most of the profiles that "Assermenté" serves clash with it, it is the one that is wrong.
   void findClashes() {
     const auto sworn = std::count_if(offer_.profiles.begin(), offer_.profiles.end(),
-                                     [this](auto profile) { return data_.colProfil(profile)->bAsserm; });
+                                     [this](auto profile) { return data_.colProfil(profile).bAsserm; });
     for (const auto& [nth, clashes] : clashes_) {
       std::set<std::int32_t> profiles;
       for (const auto& clash : clashes) profiles.insert(clash.own.profile);
@@ -218,7 +217,7 @@ class ProfileCheck {
 
   void findInAssermente(std::int32_t nth, const Clash& clash, const std::set<std::int32_t>& profiles) {
     std::vector<std::string> names;
-    for (const auto profile : profiles) names.push_back(quoted(data_.colProfil(profile)->sName));
+    for (const auto profile : profiles) names.push_back(quoted(data_.colProfil(profile).sName));
     folder_.findings.add(clash.kind, placeOf({data_.iProfilAsserm, nth, 0}),
                          clash.what + " avec les profils " + listed(names) + clash.consequence);
   }
@@ -229,7 +228,7 @@ class ProfileCheck {
 
   std::vector<Element> elements(std::int32_t profile) const {
     std::vector<Element> list;
-    for (const double key : data_.colProfil(profile)->colSkillPro)
+    for (const double key : data_.colProfil(profile).colSkillPro)
       list.push_back({profile, static_cast<std::int32_t>(list.size()) + 1, key});
     return list;
   }
@@ -237,7 +236,7 @@ class ProfileCheck {
   // Of the profile under trial and what it brings in, those that name a skill, also as that of the vehicle.
   std::vector<Element> elementsFor(std::int16_t key, const Vehicle* vehicle) const {
     const bool isOfVehicle =
-        vehicle && vehicle->skill <= data_.colSkill.Count() && data_.colSkill(vehicle->skill)->iKey == key;
+        vehicle && vehicle->skill <= data_.colSkill.Count() && data_.colSkill(vehicle->skill).iKey == key;
     std::vector<Element> found;
     for (const auto& element : elements_)
       if (element.key == key || (isOfVehicle && element.key == vehicleCode)) found.push_back(element);
@@ -256,10 +255,9 @@ class ProfileCheck {
 
   const ReferenceData least_ = leastData();
   // A skill that the rules leave out of the list.
-  const std::shared_ptr<const clsSkill> unlisted_ =
-      std::make_shared<clsSkill>(clsSkill{.iKey = vehicleCode, .sName = {}, .iStart = 0, .sDescro = {}});
+  const clsSkill unlisted_{.iKey = vehicleCode, .sName = {}, .iStart = 0, .sDescro = {}};
   // All skills without their names, which the window would sort in vain.
-  std::vector<std::shared_ptr<const clsSkill>> nameless_;
+  std::vector<clsSkill> nameless_;
   std::vector<std::int32_t> placedFor_;  // by the position of a skill, the profile under trial that has it
 
   Applicable applicable_;

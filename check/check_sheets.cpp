@@ -53,7 +53,7 @@ class SheetCheck {
       data.iProfilAsserm = 1;
     }
     for (const auto profile : profiles) data.colProfil.Add(folder.data.colProfil(profile));
-    if (profiles.empty()) data.colProfil.Add(std::make_shared<clsProfil>());
+    if (profiles.empty()) data.colProfil.Add({});
     return data;
   }
 
@@ -79,7 +79,7 @@ class SheetCheck {
       for (const auto& row : window().lvwSkillGen.rows()) row->setText("…");
       auto& sheet = composed();
       checkBox(sheet, &frmFeuille::shpProfil, folder_.places.of(profilFormat.file, profiles_[i], "sName"));
-      checkColumns(sheet, names, *folder_.data.colProfil(profiles_[i]));
+      checkColumns(sheet, names, folder_.data.colProfil(profiles_[i]));
     }
   }
 
@@ -126,7 +126,7 @@ class SheetCheck {
     setFontSizes(sheet, workingSize);
     std::set<std::string> measured;
     for (std::int32_t i = 1; i <= folder_.data.colSkill.Count(); ++i) {
-      const auto& skill = *folder_.data.colSkill(i);
+      const auto& skill = folder_.data.colSkill(i);
       const bool isPrinted = skill.iKey != vehicleCode && skill.iKey != martialSkillKey;
       if (!isPrinted || !measured.insert(skill.sName).second) continue;
       sheet.log = {};
@@ -198,7 +198,7 @@ class SheetCheck {
       if (!pickProfile([&] { return window().cmbGrade.Enabled() == sworn; })) continue;
       eachPower([this](std::int32_t power) {
         auto& sheet = composed();
-        printDrawnPower(sheet, window(), *folder_.data.colMutation(power));
+        printDrawnPower(sheet, window(), folder_.data.colMutation(power));
         checkPower(sheet, power);
       });
     }
@@ -227,7 +227,7 @@ class SheetCheck {
       const auto words = wordsOf(technic->sName);
       if (!technic->bSelected || std::count(words.begin(), words.end(), box.firstLostWord()) == 0) continue;
       for (std::int32_t i = 1; i <= folder_.technics.Count(); ++i)
-        if (folder_.technics(i)->sName == technic->sName)
+        if (folder_.technics(i).sName == technic->sName)
           findWide(box, folder_.places.of(martialTechnicFormat.file, i, "sName"));
       technic->sName = "…";
       return true;

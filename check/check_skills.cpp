@@ -59,13 +59,13 @@ class SkillCheck {
                            given(vehicle) + ", et il n'y en a que " + std::to_string(skills.Count()));
       return vehicle.skill;
     }
-    const auto& skill = *skills(vehicle.skill);
+    const auto& skill = skills(vehicle.skill);
     if (skill.iKey == vehicleCode)
       folder_.findings.add(vehiclePosition, nameOfSkill(vehicle.skill),
                            given(vehicle) + ", " + quoted(skill.sName) + ", dont la clé 101 n'est jamais proposée");
     if (skill.iKey == vehicleCode || isAbout(skill.sName, vehicle)) return vehicle.skill;
     for (std::int32_t i = 1; i <= skills.Count(); ++i)
-      if (isAbout(skills(i)->sName, vehicle)) return i;
+      if (isAbout(skills(i).sName, vehicle)) return i;
     return vehicle.skill;
   }
 
@@ -89,15 +89,15 @@ class SkillCheck {
     std::set<std::pair<std::int16_t, std::string_view>> known;
     std::int32_t doubled = 0;
     for (std::int32_t i = 1; i < vehicles.front().now; ++i)
-      doubled += !known.emplace(data_.colSkill(i)->iKey, data_.colSkill(i)->sName).second;
+      doubled += !known.emplace(data_.colSkill(i).iKey, data_.colSkill(i).sName).second;
     return doubled;
   }
 
   void findMoved(const std::vector<Moved>& vehicles) {
     std::vector<std::string> texts;
     for (const auto& [vehicle, now] : vehicles)
-      texts.push_back(given(vehicle) + ", " + quoted(data_.colSkill(vehicle.skill)->sName) + " : " +
-                      quoted(data_.colSkill(now)->sName) + " est la n° " + std::to_string(now));
+      texts.push_back(given(vehicle) + ", " + quoted(data_.colSkill(vehicle.skill).sName) + " : " +
+                      quoted(data_.colSkill(now).sName) + " est la n° " + std::to_string(now));
     const auto first = std::min_element(vehicles.begin(), vehicles.end(),
                                         [](const auto& a, const auto& b) { return a.vehicle.skill < b.vehicle.skill; });
     folder_.findings.add(vehiclePosition, nameOfSkill(first->vehicle.skill), listed(texts) + lostBefore(*first));
@@ -109,9 +109,9 @@ class SkillCheck {
     if (first.now != first.vehicle.skill - 1) return {};
     for (std::int32_t i = 1; i < first.now; ++i)
       for (const int beside : {1, -1})
-        if (const auto lost = unknown_.find(data_.colSkill(i)->iKey + beside); lost != unknown_.end()) {
+        if (const auto lost = unknown_.find(data_.colSkill(i).iKey + beside); lost != unknown_.end()) {
           const auto places = unknown_.extract(lost).mapped();
-          return " ; il manque sans doute la ligne de clé " + numberText(data_.colSkill(i)->iKey + beside) +
+          return " ; il manque sans doute la ligne de clé " + numberText(data_.colSkill(i).iKey + beside) +
                  ", citée dans profil.txt à la ligne " + std::to_string(places.front().line) + alsoCited(places);
         }
     return {};
@@ -123,7 +123,7 @@ class SkillCheck {
 
   void checkKeys(std::int32_t profile) {
     std::int32_t nth = 0;
-    for (const double key : data_.colProfil(profile)->colSkillPro) {
+    for (const double key : data_.colProfil(profile).colSkillPro) {
       ++nth;
       for (const auto skill : index_.positionsOf(key)) use(skill);
       if (key == vehicleCode)
@@ -154,7 +154,7 @@ class SkillCheck {
   }
 
   void checkSkill(std::int32_t position) {
-    const auto& skill = *data_.colSkill(position);
+    const auto& skill = data_.colSkill(position);
     const auto limits = levelLimits(skill, false);
     if (limits.lowest > limits.highest)
       folder_.findings.add(baseTooHigh, folder_.places.of(skillFormat.file, position, "iStart"),

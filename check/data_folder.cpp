@@ -28,10 +28,10 @@ class FolderFiles : public DiskFiles {
   std::map<std::string, std::string> titles;
 
   bool fileExists(const std::string& path) override { return DiskFiles::fileExists(pathInFolder(path)); }
-  std::string read(const std::string& path) override {
-    std::string bytes = mendedBytes(DiskFiles::read(pathInFolder(path)), nameIn(path), findings_);
+  std::unique_ptr<FileParts> open(const std::string& path) override {
+    std::string bytes = mendedBytes(DiskFiles().read(pathInFolder(path)), nameIn(path), findings_);
     titles[path] = bytes.substr(0, bytes.find('\n'));
-    return bytes;
+    return std::make_unique<WholeFile>(std::move(bytes));
   }
 
  private:
@@ -186,7 +186,7 @@ class FolderReading : public Reading {
     if (fault.kind == FaultKind::NoAssermente) {
       if (const auto like = profileLikeAssermente()) {
         place.line = folder_.places.of(profilFormat.file, like, "sName").line;
-        told.text += " ; " + quoted(folder_.data.colProfil(like)->sName) + " n'est pas écrit ainsi";
+        told.text += " ; " + quoted(folder_.data.colProfil(like).sName) + " n'est pas écrit ainsi";
       }
     } else if (fault.kind == FaultKind::Integer || fault.kind == FaultKind::Boolean) {
       return misread_.push_back({place, told});
@@ -231,7 +231,7 @@ class FolderReading : public Reading {
     const auto& profiles = folder_.data.colProfil;
     for (std::int32_t i = 1; i <= profiles.Count(); ++i)
       if (!folder_.places.of(profilFormat.file, i, "bAsserm").isSound &&
-          foldedName(profiles(i)->sName).starts_with(foldedName(clsProfil::swornName)))
+          foldedName(profiles(i).sName).starts_with(foldedName(clsProfil::swornName)))
         return true;
     return false;
   }
@@ -247,7 +247,7 @@ class FolderReading : public Reading {
   std::int32_t profileLikeAssermente() const {
     const auto& profiles = folder_.data.colProfil;
     for (std::int32_t i = 1; i <= profiles.Count(); ++i)
-      if (foldedName(profiles(i)->sName) == foldedName(clsProfil::swornName)) return i;
+      if (foldedName(profiles(i).sName) == foldedName(clsProfil::swornName)) return i;
     return 0;
   }
 
@@ -269,7 +269,9 @@ class TitleReading : public Reading, public DiskFiles {
   std::set<std::string_view> records;  // the files whose title line makes a record
 
   bool fileExists(const std::string& path) override { return titles_.count(path) > 0; }
-  std::string read(const std::string& path) override { return "\n" + titles_[path] + "\n"; }
+  std::unique_ptr<FileParts> open(const std::string& path) override {
+    return std::make_unique<WholeFile>("\n" + titles_[path] + "\n");
+  }
 
   void fault(const Fault& fault) override { isFaulty_ |= fault.kind >= FaultKind::Separator; }
   void field(const FieldText& text) override {
@@ -304,8 +306,8 @@ template <class Records>
 void doubtNeighbours(DataFolder& folder, const Records& records, std::string_view file) {
   for (std::int32_t i = 1; i <= records.Count(); ++i) {
     if (folder.places.of(file, i, "iKey").isSound) continue;
-    if (i > 1) folder.doubtfulKeys[file].insert(records(i - 1)->iKey + 1);
-    if (i < records.Count()) folder.doubtfulKeys[file].insert(records(i + 1)->iKey - 1);
+    if (i > 1) folder.doubtfulKeys[file].insert(records(i - 1).iKey + 1);
+    if (i < records.Count()) folder.doubtfulKeys[file].insert(records(i + 1).iKey - 1);
   }
 }
 

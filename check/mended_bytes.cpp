@@ -10,8 +10,6 @@ namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
-bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
-
 // The characters of a line in UTF-8; nothing for one in plain ASCII or in another encoding.
 std::optional<std::u32string> utf8Characters(std::string_view line) {
   const auto first = std::find_if_not(line.begin(), line.end(), isAscii);

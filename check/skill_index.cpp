@@ -9,7 +9,7 @@ namespace orvane {
 SkillIndex::SkillIndex(const DataFolder& folder) {
   const auto& skills = folder.data.colSkill;
   for (std::int32_t i = 1; i <= skills.Count(); ++i)
-    if (folder.places.of(skillFormat.file, i, "iKey").isSound) positions_[skills(i)->iKey].push_back(i);
+    if (folder.places.of(skillFormat.file, i, "iKey").isSound) positions_[skills(i).iKey].push_back(i);
 }
 
 const std::vector<std::int32_t>& SkillIndex::positionsOf(double key) const {

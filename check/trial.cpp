@@ -38,12 +38,11 @@ Answer Trial::MsgBox(const std::string&, BoxStyle style, const std::string&) {
 
 ReferenceData leastData() {
   ReferenceData data;
-  data.colEthnie.Add(std::make_shared<clsEthnie>());
+  data.colEthnie.Add({});
   clsProfil profil;
   profil.colSkillPro.Add(martialSkillKey);
-  data.colProfil.Add(profil.Duplicate());
-  data.colSkill.Add(
-      std::make_shared<clsSkill>(clsSkill{.iKey = martialSkillKey, .sName = {}, .iStart = 0, .sDescro = {}}));
+  data.colProfil.Add(profil);
+  data.colSkill.Add({.iKey = martialSkillKey, .sName = {}, .iStart = 0, .sDescro = {}});
   return data;
 }
 

@@ -18,54 +18,43 @@ constexpr std::int32_t lastPosition = std::numeric_limits<std::int16_t>::max();
 class Loader {
  public:
   Loader(ReferenceData& data, Files& files, Dialogs& dialogs, Reading& reading)
-      : data_(data), files_(files), reading_(reading), tools_{dialogs, [this](std::int16_t iKey) {
+      : data_(data), files_(files), reading_(reading), tools_{dialogs, *data.texts, [this](std::int16_t iKey) {
                                                                 return technicOf(iKey);
                                                               }} {}
 
   Technics load() {
     readInto(data_.colEthnie, ethnieFormat);
     readInto(data_.colGrade, gradeFormat);
-    const bool read = readInto(data_.colProfil, profilFormat, [this](RecordLine& line) { noteAssermente(line); });
-    if (read && data_.iProfilAsserm == 0) fault(FaultKind::NoAssermente, profilFormat.file);
+    const bool isRead = read(profilFormat, [this](clsProfil profil, RecordLine& line) {
+      data_.colProfil.Add(std::move(profil));
+      noteAssermente(line);
+    });
+    if (isRead && data_.iProfilAsserm == 0) fault(FaultKind::NoAssermente, profilFormat.file);
     readInto(data_.colSkill, skillFormat);
     readInto(data_.colMutation, mutationFormat);
-    readInto(colAllTechnic_, martialTechnicFormat, [this](RecordLine&) { noteTechnic(); });
+    read(martialTechnicFormat, [this](const clsMartialTechnic& technic, RecordLine&) { addTechnic(technic); });
     readInto(data_.colMartialArt, martialArtFormat);
     readInto(data_.colDistrict, districtFormat);
     return std::move(colAllTechnic_);
   }
 
  private:
-  // False where the file cannot be read at all. Each line whose record was added is told of.
-  template <class Member, class Record, class Added>
-  bool readInto(Collection<Member>& records, const RecordFormat<Record>& format, Added added) {
-    auto bytes = bytesOf(format.file);
-    if (!bytes) return false;
-    DataFile file(reading_, format.file, std::move(*bytes));
+  // Adds the record of each line. False where the file cannot be read at all.
+  template <class Record, class Add>
+  bool read(const RecordFormat<Record>& format, Add add) {
+    DataFile file(reading_, files_, format.file);
     while (auto line = file.readline()) {
       auto record = format.read(*line, tools_);
       if (!line->isRecord()) continue;
-      records.Add(std::move(record));
-      added(*line);
+      add(std::move(record), *line);
       reading_.record();
     }
-    return true;
+    return file.isRead();
   }
 
-  template <class Member, class Record>
-  bool readInto(Collection<Member>& records, const RecordFormat<Record>& format) {
-    return readInto(records, format, [](RecordLine&) {});
-  }
-
-  std::optional<std::string> bytesOf(std::string_view name) {
-    const std::string path = "./" + std::string(name);
-    try {
-      if (files_.fileExists(path)) return files_.read(path);
-      fault(FaultKind::MissingFile, name);
-    } catch (const Failure& failure) {
-      fault(FaultKind::UnreadableFile, name, failure.what());
-    }
-    return std::nullopt;
+  template <class Record>
+  void readInto(Collection<Record>& records, const RecordFormat<Record>& format) {
+    read(format, [&records](Record record, RecordLine&) { records.Add(std::move(record)); });
   }
 
   void fault(FaultKind kind, std::string_view file, std::string_view text = {}) {
@@ -73,7 +62,7 @@ class Loader {
   }
 
   void noteAssermente(RecordLine& line) {
-    if (data_.colProfil(data_.colProfil.Count())->canBeChosen()) return;
+    if (data_.colProfil(data_.colProfil.Count()).canBeChosen()) return;
     if (data_.colProfil.Count() > lastPosition)
       line.fault(FaultKind::AssermenteOutOfReach);
     else
@@ -81,9 +70,10 @@ class Loader {
   }
 
   // Of two techniques with one key, arts can only reach the first.
-  void noteTechnic() {
-    const auto& technic = colAllTechnic_(colAllTechnic_.Count());
-    technicByKey_.try_emplace(technic->iKey, technic);
+  void addTechnic(const clsMartialTechnic& record) {
+    colAllTechnic_.Add(record);
+    auto& first = technicByKey_[record.iKey];
+    if (!first) first = std::make_shared<clsMartialTechnic>(record);
   }
 
   std::shared_ptr<clsMartialTechnic> technicOf(std::int16_t iKey) const {

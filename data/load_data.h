@@ -11,7 +11,7 @@ namespace orvane {
 void prcLoadData(ReferenceData& data, Files& files, Dialogs& dialogs);
 
 // All techniques of martial_technic.txt, in file order.
-using Technics = Collection<std::shared_ptr<clsMartialTechnic>>;
+using Technics = Collection<clsMartialTechnic>;
 
 // The same for a reading that may go on behind faults, which are told to it alone. Fails as it does.
 Technics readData(ReferenceData& data, Files& files, Dialogs& dialogs, Reading& reading);

@@ -17,10 +17,15 @@ void take(Line& line, const Field& field, RecordOf<member>& record, const Readin
   record.*member = (line.*reading)(field);
 }
 
+template <auto member, auto reading>
+void takeText(Line& line, const Field& field, RecordOf<member>& record, const ReadingTools& tools) {
+  record.*member = tools.texts.keep((line.*reading)(field));
+}
+
 // The same for a text in which "[return]" stands for a line end.
 template <auto member, auto reading>
 void takeEscaped(Line& line, const Field& field, RecordOf<member>& record, const ReadingTools& tools) {
-  record.*member = prcReturnToCrLf((line.*reading)(field), tools.dialogs);
+  record.*member = tools.texts.keep(prcReturnToCrLf((line.*reading)(field), tools.dialogs));
 }
 
 void takeSkills(Line& line, const Field& field, clsProfil& profil, const ReadingTools&) {
@@ -38,18 +43,18 @@ void takeTechnics(Line& line, const Field& field, clsMartialArt& art, const Read
 }
 
 constexpr FieldFormat<clsEthnie> ethnieFields[] = {
-    {{"sName", "nom de l'ethnie"}, take<&clsEthnie::sName, &Line::text>},
+    {{"sName", "nom de l'ethnie"}, takeText<&clsEthnie::sName, &Line::text>},
     {{"iMaxD", "nombre de l'ethnie"}, take<&clsEthnie::iMaxD, &Line::integerToEnd>},
 };
 
 constexpr FieldFormat<clsGrade> gradeFields[] = {
     {{"iSalaire", "salaire"}, take<&clsGrade::iSalaire, &Line::integer>},
-    {{"sName", "nom du grade"}, take<&clsGrade::sName, &Line::text>},
-    {{"sDescro", "description"}, take<&clsGrade::sDescro, &Line::textToEnd>},
+    {{"sName", "nom du grade"}, takeText<&clsGrade::sName, &Line::text>},
+    {{"sDescro", "description"}, takeText<&clsGrade::sDescro, &Line::textToEnd>},
 };
 
 constexpr FieldFormat<clsProfil> profilFields[] = {
-    {{"sName", "nom du profil"}, take<&clsProfil::sName, &Line::text>},
+    {{"sName", "nom du profil"}, takeText<&clsProfil::sName, &Line::text>},
     {{"bAsserm", "profil assermenté ou non"}, take<&clsProfil::bAsserm, &Line::boolean>},
     {{"sDescro", "description"}, takeEscaped<&clsProfil::sDescro, &Line::text>},
     {{"colSkillPro", "clé d'une compétence du profil"}, takeSkills},
@@ -57,28 +62,28 @@ constexpr FieldFormat<clsProfil> profilFields[] = {
 
 constexpr FieldFormat<clsSkill> skillFields[] = {
     {{"iKey", "clé de la compétence"}, take<&clsSkill::iKey, &Line::integer>},
-    {{"sName", "nom de la compétence"}, take<&clsSkill::sName, &Line::text>},
+    {{"sName", "nom de la compétence"}, takeText<&clsSkill::sName, &Line::text>},
     {{"iStart", "valeur de base"}, take<&clsSkill::iStart, &Line::integer>},
-    {{"sDescro", "description"}, take<&clsSkill::sDescro, &Line::textToEnd>},
+    {{"sDescro", "description"}, takeText<&clsSkill::sDescro, &Line::textToEnd>},
 };
 
 constexpr FieldFormat<clsMutation> mutationFields[] = {
-    {{"sCateg", "catégorie"}, take<&clsMutation::sCateg, &Line::text>},
-    {{"sSign", "signe"}, take<&clsMutation::sSign, &Line::text>},
+    {{"sCateg", "catégorie"}, takeText<&clsMutation::sCateg, &Line::text>},
+    {{"sSign", "signe"}, takeText<&clsMutation::sSign, &Line::text>},
     {{"iNum", "numéro du pouvoir"}, take<&clsMutation::iNum, &Line::integer>},
-    {{"sName", "nom du pouvoir"}, take<&clsMutation::sName, &Line::text>},
+    {{"sName", "nom du pouvoir"}, takeText<&clsMutation::sName, &Line::text>},
     {{"sDescro", "description"}, takeEscaped<&clsMutation::sDescro, &Line::textToEnd>},
 };
 
 constexpr FieldFormat<clsMartialTechnic> martialTechnicFields[] = {
-    {{"sName", "nom de la technique"}, take<&clsMartialTechnic::sName, &Line::text>},
-    {{"sType", "type, o ou d"}, take<&clsMartialTechnic::sType, &Line::text>},
+    {{"sName", "nom de la technique"}, takeText<&clsMartialTechnic::sName, &Line::text>},
+    {{"sType", "type, o ou d"}, takeText<&clsMartialTechnic::sType, &Line::text>},
     {{"iKey", "clé de la technique"}, take<&clsMartialTechnic::iKey, &Line::integer>},
-    {{"sDescro", "description"}, take<&clsMartialTechnic::sDescro, &Line::textToEnd>},
+    {{"sDescro", "description"}, takeText<&clsMartialTechnic::sDescro, &Line::textToEnd>},
 };
 
 constexpr FieldFormat<clsMartialArt> martialArtFields[] = {
-    {{"sName", "nom de l'art martial"}, take<&clsMartialArt::sName, &Line::text>},
+    {{"sName", "nom de l'art martial"}, takeText<&clsMartialArt::sName, &Line::text>},
     {{"iRestrictO", "restriction offensive"}, take<&clsMartialArt::iRestrictO, &Line::integer>},
     {{"iRestrictD", "restriction défensive"}, take<&clsMartialArt::iRestrictD, &Line::integer>},
     {{"sDescro", "description"}, takeEscaped<&clsMartialArt::sDescro, &Line::text>},
@@ -86,7 +91,7 @@ constexpr FieldFormat<clsMartialArt> martialArtFields[] = {
 };
 
 constexpr FieldFormat<clsDistrict> districtFields[] = {
-    {{"sName", "nom du quartier"}, take<&clsDistrict::sName, &Line::text>},
+    {{"sName", "nom du quartier"}, takeText<&clsDistrict::sName, &Line::text>},
     {{"sDescro", "description"}, takeEscaped<&clsDistrict::sDescro, &Line::textToEnd>},
 };
 

@@ -17,6 +17,7 @@ using TechnicFinder = std::function<std::shared_ptr<clsMartialTechnic>(std::int1
 // What fields are read with, beside their line.
 struct ReadingTools {
   Dialogs& dialogs;
+  Texts& texts;
   TechnicFinder technic;
 };
 
@@ -32,9 +33,9 @@ struct RecordFormat {
   std::string_view file;
   std::span<const FieldFormat<Record>> fields;
 
-  std::shared_ptr<Record> read(RecordLine& line, const ReadingTools& tools) const {
-    auto record = std::make_shared<Record>();
-    for (const auto& [field, take] : fields) take(line, field, *record, tools);
+  Record read(RecordLine& line, const ReadingTools& tools) const {
+    Record record;
+    for (const auto& [field, take] : fields) take(line, field, record, tools);
     return record;
   }
 };

@@ -80,7 +80,8 @@ std::string RecordLine::decoded(std::string_view bytes) {
 
 template <class Value>
 Value RecordLine::converted(std::string_view bytes, FaultKind expected, Value (*convert)(std::string_view)) {
-  const std::string text = decoded(bytes);
+  const bool isPlain = std::all_of(bytes.begin(), bytes.end(), isAscii);
+  const std::string text = isPlain ? std::string(bytes) : decoded(bytes);
   try {
     return convert(text);
   } catch (const Failure&) {

@@ -5,20 +5,22 @@
 #include <string>
 #include <utility>
 
+#include "data/texts.h"
 #include "surface/collection.h"
 
-// The records of the game. Plain values: nothing is checked here, every member starts empty, 0 or false.
+// The records of the game. Plain values: nothing is checked here, every member starts empty, 0 or false. Their texts
+// stand in the reference data that they were read into.
 namespace orvane {
 
 struct clsEthnie {
-  std::string sName;
+  DataText sName;
   std::int16_t iMaxD = 0;
 };
 
 struct clsGrade {
   std::int16_t iSalaire = 0;
-  std::string sName;
-  std::string sDescro;
+  DataText sName;
+  DataText sDescro;
 };
 
 // A contact of one character; no file holds these.
@@ -31,14 +33,14 @@ struct clsContact {
 
 struct clsProfil {
   // Of the profile whose skills all sworn profiles bring as well as their own, and which nobody can choose.
-  static inline const std::string swornName = "Assermenté";
+  static constexpr DataText swornName = "Assermenté";
 
-  std::string sName;
+  DataText sName;
   // A sworn profile.
   bool bAsserm = false;
   // Keys of skills, or the code that stands for the skill of the favourite vehicle.
   Collection<double> colSkillPro;
-  std::string sDescro;
+  DataText sDescro;
 
   bool canBeChosen() const { return sName != swornName; }
   // A copy whose list can be changed without touching this one.
@@ -47,24 +49,24 @@ struct clsProfil {
 
 struct clsSkill {
   std::int16_t iKey = 0;
-  std::string sName;
+  DataText sName;
   std::int16_t iStart = 0;
-  std::string sDescro;
+  DataText sDescro;
 };
 
 struct clsMutation {
-  std::string sCateg;
-  std::string sSign;
-  std::string sName;
-  std::string sDescro;
+  DataText sCateg;
+  DataText sSign;
+  DataText sName;
+  DataText sDescro;
   std::int16_t iNum = 0;
 };
 
 struct clsMartialTechnic {
-  std::string sName;
+  DataText sName;
   // "o" offensive, "d" defensive.
-  std::string sType;
-  std::string sDescro;
+  DataText sType;
+  DataText sDescro;
   std::int16_t iKey = 0;
   // Taken by the character; only ever true on private copies.
   bool bSelected = false;
@@ -96,10 +98,10 @@ class colMartialTechnic {
 };
 
 struct clsMartialArt {
-  std::string sName;
+  DataText sName;
   std::int16_t iRestrictO = 0;
   std::int16_t iRestrictD = 0;
-  std::string sDescro;
+  DataText sDescro;
   orvane::colMartialTechnic colMartialTechnic;
 
   // A deep copy: every technique is a new record, private to the copy.
@@ -107,8 +109,8 @@ struct clsMartialArt {
 };
 
 struct clsDistrict {
-  std::string sName;
-  std::string sDescro;
+  DataText sName;
+  DataText sDescro;
 };
 
 }  // namespace orvane

@@ -23,18 +23,14 @@ char16_t codePoint(char byte) {
 constexpr std::uint64_t oneEach = 0x0101010101010101;
 constexpr std::uint64_t highBit = 0x80 * oneEach;
 
-// The next eight bytes, or those that are left and zeros.
-std::uint64_t nextEight(std::string_view bytes) {
+std::uint64_t firstEight(std::string_view bytes) {
   std::uint64_t eight = 0;
-  if (bytes.size() >= sizeof eight)
-    std::memcpy(&eight, bytes.data(), sizeof eight);
-  else
-    std::memcpy(&eight, bytes.data(), bytes.size());
+  std::memcpy(&eight, bytes.data(), sizeof eight);
   return eight;
 }
 
 bool startsWithEightOfAscii(std::string_view bytes) {
-  return bytes.size() >= sizeof(std::uint64_t) && (nextEight(bytes) & highBit) == 0;
+  return bytes.size() >= sizeof(std::uint64_t) && (firstEight(bytes) & highBit) == 0;
 }
 
 // Gives the place behind the one to three bytes.
@@ -63,17 +59,23 @@ struct Share {
 Share shareOf(std::string_view bytes) {
   Share share;
   const auto countOf = [](std::uint64_t highBits) { return static_cast<std::size_t>((highBits >> 7) * oneEach >> 56); };
-  for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), sizeof(std::uint64_t)))) {
-    const std::uint64_t eight = nextEight(bytes);
+  for (; bytes.size() >= sizeof(std::uint64_t); bytes.remove_prefix(sizeof(std::uint64_t))) {
+    const std::uint64_t eight = firstEight(bytes);
     const std::uint64_t beyond = eight & highBit;
     if (beyond == 0) continue;
     share.beyondAscii += countOf(beyond);
     share.upperControls += countOf(beyond & ~(eight << 1) & ~(eight << 2));
   }
+  for (const char byte : bytes) {
+    share.beyondAscii += !isAscii(byte);
+    share.upperControls += (byte & 0xE0) == 0x80;
+  }
   return share;
 }
 
 }  // namespace
+
+bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
 
 bool inWindows1252(char byte) { return byte == '\0' || codePoint(byte) != 0; }
 

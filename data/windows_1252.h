@@ -8,6 +8,9 @@
 // The code page of the data files: one byte a character.
 namespace orvane {
 
+// One of those that mean the same in UTF-8.
+bool isAscii(char byte);
+
 // Whether the byte stands for a character; 81, 8D, 8F, 90 and 9D do not.
 bool inWindows1252(char byte);
 

@@ -57,22 +57,22 @@ void frmPersonnage::wireEtatCivil() {
 // Before the profile, which selects one.
 void frmPersonnage::loadGrades() {
   for (std::int32_t i = 1; i <= std::min(data_.colGrade.Count(), offeredGrades); ++i)
-    cmbGrade.AddItem(data_.colGrade(i)->sName, i);
+    cmbGrade.AddItem(data_.colGrade(i).sName, i);
 }
 
 void frmPersonnage::loadEtatCivil() {
-  for (std::int32_t i = 1; i <= data_.colEthnie.Count(); ++i) cmbEthnie.AddItem(data_.colEthnie(i)->sName, i);
+  for (std::int32_t i = 1; i <= data_.colEthnie.Count(); ++i) cmbEthnie.AddItem(data_.colEthnie(i).sName, i);
   cmbEthnie.setListIndex(0);
   setNumber(txtLangRest, languagePool);
   for (auto& degree : txtLang) setNumber(degree, 0);
   txtOtherLang.setText(unnamedLanguage);
-  for (std::int32_t i = 1; i <= data_.colDistrict.Count(); ++i) cmbDistrict.AddItem(data_.colDistrict(i)->sName, i);
+  for (std::int32_t i = 1; i <= data_.colDistrict.Count(); ++i) cmbDistrict.AddItem(data_.colDistrict(i).sName, i);
   cmbSexe.setListIndex(0);
 }
 
 void frmPersonnage::enterEtatCivil() {
   optLang(0).setValue(true);
-  showProfil(*data_.colProfil(cmbProfil.selectedData()));
+  showProfil(data_.colProfil(cmbProfil.selectedData()));
 }
 
 void frmPersonnage::txtPerso_LostFocus() {
@@ -90,11 +90,11 @@ void frmPersonnage::cmbDistrict_Click() {
   if (cmbDistrict.ListIndex() == -1)
     txtAllDescro.setText(foreignDistrict);
   else
-    txtAllDescro.setText(data_.colDistrict(cmbDistrict.selectedData())->sDescro);
+    txtAllDescro.setText(data_.colDistrict(cmbDistrict.selectedData()).sDescro);
 }
 
 void frmPersonnage::cmbGrade_Click() {
-  if (cmbGrade.ListIndex() != -1) txtAllDescro.setText(data_.colGrade(cmbGrade.selectedData())->sDescro);
+  if (cmbGrade.ListIndex() != -1) txtAllDescro.setText(data_.colGrade(cmbGrade.selectedData()).sDescro);
 }
 
 void frmPersonnage::optLang_Click(std::int16_t Index) {

@@ -36,7 +36,7 @@ void frmPersonnage::wireArtsMartiaux() {
 
 void frmPersonnage::loadArtsMartiaux() {
   setMartialColumns();
-  for (const auto& art : data_.colMartialArt) colPersoArt.Add(art->Duplicate());
+  for (const auto& art : data_.colMartialArt) colPersoArt.Add(art.Duplicate());
   for (std::int32_t i = 1; i <= colPersoArt.Count(); ++i) {
     addRow(lvwMartialArt, colPersoArt(i)->sName, offensive, i);
     addRow(lvwMartialArt, "", defensive, i);

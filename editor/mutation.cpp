@@ -69,7 +69,7 @@ frmPersonnage::MutationState frmPersonnage::mutationState() const {
 }
 
 const clsMutation* frmPersonnage::selectedPower() const {
-  return cmbMutaName.ListIndex() < 0 ? nullptr : data_.colMutation(cmbMutaName.selectedData()).get();
+  return cmbMutaName.ListIndex() < 0 ? nullptr : &data_.colMutation(cmbMutaName.selectedData());
 }
 
 void frmPersonnage::chkMuta_Click() {
@@ -120,7 +120,7 @@ void frmPersonnage::cmbMutaSign_Change() { prcMutaNameChange(); }
 void frmPersonnage::prcMutaNameChange() {
   cmbMutaName.Clear();
   for (std::int32_t i = 1; i <= data_.colMutation.Count(); ++i) {
-    const auto& power = *data_.colMutation(i);
+    const auto& power = data_.colMutation(i);
     if (power.sCateg == cmbMutaCateg.Text() && power.sSign == cmbMutaSign.Text())
       cmbMutaName.AddItem(powerEntry(power), i);
   }
@@ -130,9 +130,7 @@ void frmPersonnage::prcMutaNameChange() {
     txtAllDescro.setText("");
 }
 
-void frmPersonnage::cmbMutaName_Click() {
-  txtAllDescro.setText(data_.colMutation(cmbMutaName.selectedData())->sDescro);
-}
+void frmPersonnage::cmbMutaName_Click() { txtAllDescro.setText(data_.colMutation(cmbMutaName.selectedData()).sDescro); }
 
 void frmPersonnage::cmdMutaRandomChoice_Click() {
   if (cmbMutaName.ListCount() == 0) return txtAllDescro.setText("!!! Aucun pouvoir dans cette catégorie !!!");

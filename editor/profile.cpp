@@ -17,7 +17,7 @@ void frmPersonnage::wireProfil() {
 // Applies the first profile at once: it opens the tabs that it needs.
 void frmPersonnage::loadProfil() {
   for (std::int32_t i = 1; i <= data_.colProfil.Count(); ++i)
-    if (data_.colProfil(i)->canBeChosen()) cmbProfil.AddItem(data_.colProfil(i)->sName, i);
+    if (data_.colProfil(i).canBeChosen()) cmbProfil.AddItem(data_.colProfil(i).sName, i);
   for (int tab : {Competences, ArtsMartiaux, Mutation}) SSTabPerso.setTabEnabled(tab, false);
   cmbProfil.setListIndex(0);
 }
@@ -65,12 +65,12 @@ void frmPersonnage::closeSkillSide() {
 }
 
 frmPersonnage::ProfileCopies frmPersonnage::copyProfiles() const {
-  ProfileCopies profiles{data_.colProfil(cmbProfil.selectedData())->Duplicate()};
+  ProfileCopies profiles{data_.colProfil(cmbProfil.selectedData()).Duplicate()};
   if (!profiles.front()->bAsserm) return profiles;
   if (data_.iProfilAsserm == 0)
     throw Failure("Le profil « " + profiles.front()->sName + " » demande le profil « " + clsProfil::swornName +
                   " », qui manque.");
-  profiles.push_back(data_.colProfil(data_.iProfilAsserm)->Duplicate());
+  profiles.push_back(data_.colProfil(data_.iProfilAsserm).Duplicate());
   return profiles;
 }
 
@@ -102,7 +102,7 @@ void frmPersonnage::putVehicleSkill(clsProfil& profile) {
   if (skill > data_.colSkill.Count())
     throw Failure("Le véhicule « " + cmbVehicle.Text() + " » renvoie à la compétence n° " + std::to_string(skill) +
                   ", mais il n'y en a que " + std::to_string(data_.colSkill.Count()) + ".");
-  profile.colSkillPro.Add(data_.colSkill(skill)->iKey);
+  profile.colSkillPro.Add(data_.colSkill(skill).iKey);
 }
 
 void frmPersonnage::resetMartialArts() {

@@ -19,12 +19,12 @@ void setStartLevel(ListItem& row, double level) {
 bool frmPersonnage::buildSkillList(const ProfileCopies& profiles) {
   const SkillCounts counts(profiles);
   for (const auto& skill : data_.colSkill) {
-    if (skill->iKey == vehicleCode) continue;
-    const int count = counts(skill->iKey);
-    warnOfRedundancy(*skill, count);
+    if (skill.iKey == vehicleCode) continue;
+    const int count = counts(skill.iKey);
+    warnOfRedundancy(skill, count);
     if (count == 0)
-      addSkillRow(*skill, skill->iStart, false);
-    else if (!addProfileSkill(*skill))
+      addSkillRow(skill, skill.iStart, false);
+    else if (!addProfileSkill(skill))
       return false;
   }
   return true;

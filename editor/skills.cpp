@@ -36,7 +36,7 @@ void frmPersonnage::enterCompetences() {
 
 const clsSkill* frmPersonnage::skillOf(const ListItem& row) const {
   for (const auto& skill : data_.colSkill)
-    if (skill->iKey == key(row)) return skill.get();
+    if (skill.iKey == key(row)) return &skill;
   return nullptr;
 }
 

@@ -20,9 +20,9 @@ class PastFiles final : public Files {
 
   bool fileExists(const std::string& path) override { return isPast_ || files_.fileExists(path); }
   bool directoryExists(const std::string& path) override { return isPast_ || files_.directoryExists(path); }
-  std::string read(const std::string& path) override {
+  std::unique_ptr<FileParts> open(const std::string& path) override {
     const auto written = written_.find(path);
-    return written == written_.end() ? files_.read(path) : written->second;
+    return written == written_.end() ? files_.open(path) : std::make_unique<WholeFile>(written->second);
   }
   std::vector<FolderEntry> list(const std::string& path) override {
     return isPast_ ? std::vector<FolderEntry>() : files_.list(path);

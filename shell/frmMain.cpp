@@ -38,7 +38,7 @@ constexpr std::array<PlacementKey, 4> placementKeys = {{{"MainLeft", &frmMain::P
 
 bool hasUsableProfile(const ReferenceData& data) {
   return std::any_of(data.colProfil.begin(), data.colProfil.end(),
-                     [](const auto& profile) { return profile->canBeChosen(); });
+                     [](const auto& profile) { return profile.canBeChosen(); });
 }
 
 }  // namespace

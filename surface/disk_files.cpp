@@ -37,29 +37,33 @@ bool look(const std::string& path, struct stat& found, Look how) {
 
 bool isDirectory(const struct stat& found) { return S_ISDIR(found.st_mode); }
 
-// A regular file that is read from its start on.
-class ReadFile {
+class ReadFile final : public FileParts {
  public:
   explicit ReadFile(const std::string& path) : path_(path), file_(path, O_RDONLY) {
     if (!file_.isOpen() || !file_.stat(found_)) fail("Lecture impossible", path);
     if (isDirectory(found_)) fail("Lecture impossible", path, EISDIR);
     if (!S_ISREG(found_.st_mode)) fail("Lecture impossible", path, "ce n'est pas un fichier ordinaire");
-    if (found_.st_size > static_cast<off_t>(largestFile)) fail("Lecture impossible", path, std::string(tooLargeFile));
+    failIfTooLarge(size());
   }
 
-  std::size_t size() const { return static_cast<std::size_t>(found_.st_size); }
+  std::size_t size() const override { return static_cast<std::size_t>(found_.st_size); }
 
-  // Valid until the next call; empty at the end.
-  std::string_view next() {
+  std::string_view next() override {
     const ssize_t count = file_.read(buffer_);
     if (count < 0) fail("Lecture impossible", path_);
+    failIfTooLarge(read_ += static_cast<std::size_t>(count));
     return {buffer_.data(), static_cast<std::size_t>(count)};
   }
 
  private:
-  const std::string& path_;
+  void failIfTooLarge(std::size_t size) const {
+    if (size > largestFile) fail("Lecture impossible", path_, std::string(tooLargeFile));
+  }
+
+  std::string path_;
   OpenFile file_;
   struct stat found_ {};
+  std::size_t read_ = 0;
   std::array<char, 65536> buffer_;
 };
 
@@ -108,25 +112,7 @@ bool DiskFiles::directoryExists(const std::string& path) {
   return look(path, found, ::stat) && isDirectory(found);
 }
 
-std::string DiskFiles::read(const std::string& path) {
-  ReadFile file(path);
-  std::string bytes;
-  bytes.reserve(file.size());
-  for (auto part = file.next(); !part.empty(); part = file.next()) {
-    bytes += part;
-    if (bytes.size() > largestFile) fail("Lecture impossible", path, std::string(tooLargeFile));
-  }
-  return bytes;
-}
-
-bool DiskFiles::holds(const std::string& path, std::string_view bytes) {
-  ReadFile file(path);
-  for (auto part = file.next(); !part.empty(); part = file.next()) {
-    if (!bytes.starts_with(part)) return false;
-    bytes.remove_prefix(part.size());
-  }
-  return bytes.empty();
-}
+std::unique_ptr<FileParts> DiskFiles::open(const std::string& path) { return std::make_unique<ReadFile>(path); }
 
 std::vector<FolderEntry> DiskFiles::list(const std::string& path) {
   std::error_code error;

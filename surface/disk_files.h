@@ -12,8 +12,7 @@ class DiskFiles : public Files {
 
   bool fileExists(const std::string& path) override;
   bool directoryExists(const std::string& path) override;
-  std::string read(const std::string& path) override;
-  bool holds(const std::string& path, std::string_view bytes) override;
+  std::unique_ptr<FileParts> open(const std::string& path) override;
   std::vector<FolderEntry> list(const std::string& path) override;
   bool MkDir(const std::string& path) override;
   // What could not be written whole is removed again.

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // The outside world, as interfaces that a run is given: a screen, a script player and the tests each bring their own.
@@ -79,6 +80,28 @@ struct FolderEntry {
 // Bytes. A longer file is not read.
 inline constexpr std::size_t largestFile = 64U << 20;
 
+// A file that is read from its start on.
+class FileParts {
+ public:
+  virtual ~FileParts() = default;
+  // Its bytes, as far as that is known before they are read.
+  virtual std::size_t size() const = 0;
+  // The next bytes, valid until the next call; none at the end.
+  virtual std::string_view next() = 0;
+};
+
+// A file whose bytes are there already.
+class WholeFile final : public FileParts {
+ public:
+  explicit WholeFile(std::string bytes) : bytes_(std::move(bytes)), rest_(bytes_) {}
+  std::size_t size() const override { return bytes_.size(); }
+  std::string_view next() override { return std::exchange(rest_, {}); }
+
+ private:
+  std::string bytes_;
+  std::string_view rest_;
+};
+
 // Files by path, relative to the current directory. Each either does its work or fails with a French reason that names
 // the path. What changes a directory is sure to last once that directory has been synced.
 class Files {
@@ -87,10 +110,11 @@ class Files {
   // Anything but a directory.
   virtual bool fileExists(const std::string& path) = 0;
   virtual bool directoryExists(const std::string& path) = 0;
-  // Reads a regular file of at most largestFile bytes.
-  virtual std::string read(const std::string& path) = 0;
+  // A regular file of at most largestFile bytes. What is longer fails then, or once it is read as far.
+  virtual std::unique_ptr<FileParts> open(const std::string& path) = 0;
+  std::string read(const std::string& path);
   // Whether a file that can be read holds just these bytes.
-  virtual bool holds(const std::string& path, std::string_view bytes) { return read(path) == bytes; }
+  bool holds(const std::string& path, std::string_view bytes);
   // All that a directory holds.
   virtual std::vector<FolderEntry> list(const std::string& path) = 0;
   // False where the name is taken.

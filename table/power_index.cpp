@@ -51,7 +51,7 @@ QString entry(const clsMutation& power) {
 QString alphabet(const ReferenceData& data) {
   std::map<std::string, QString> sorted;
   for (const auto& power : data.colMutation)
-    sorted[sortKey(power->sName)] = printed(power->sName) + "&nbsp; " + QString::number(power->iNum);
+    sorted[sortKey(power.sName)] = printed(power.sName) + "&nbsp; " + QString::number(power.iNum);
   const auto half = static_cast<std::ptrdiff_t>((sorted.size() + 1) / 2);
   QString html = "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"0\"><tr>";
   auto name = sorted.begin();
@@ -70,8 +70,8 @@ class Setting {
   std::vector<Piece> all(const ReferenceData& data) {
     std::string before;
     for (const auto& power : data.colMutation) {
-      const auto group = power->sCateg + power->sSign;
-      add(group == before ? QString() : signHeading(*power), entry(*power));
+      const auto group = power.sCateg + ";" + power.sSign;
+      add(group == before ? QString() : signHeading(power), entry(power));
       before = group;
     }
     add(heading(QStringLiteral("Par ordre alphabétique")), alphabet(data));

@@ -64,9 +64,9 @@ TEST_F(Game, EveryPowerFitsItsBoxes) {
   for (const float points : {9.0F, 10.0F}) {
     sheet.pctRecto.setFontSize(points);
     for (const auto& power : run.data().colMutation)
-      for (auto [text, box] : {std::pair{power->sCateg + " " + power->sSign + " 123", &sheet.shpMutaCateg},
-                               {power->sName, &sheet.shpMutaName},
-                               {power->sDescro, &sheet.shpMutaDescro}})
+      for (auto [text, box] : {std::pair{power.sCateg + " " + power.sSign + " 123", &sheet.shpMutaCateg},
+                               {power.sName, &sheet.shpMutaName},
+                               {power.sDescro, &sheet.shpMutaDescro}})
         prcPrintInShape(std::move(text), sheet.pctRecto, *box);
   }
   EXPECT_EQ(lostOn(sheet), "");
@@ -78,42 +78,42 @@ TEST_F(Game, EverySkillNameStandsOnOneLine) {
   sheet.pctVerso.setFontSize(10);
   for (const auto& skill : run.data().colSkill)
     for (const auto& box : sheet.shpNames)
-      EXPECT_LE(sheet.pctVerso.TextWidth(" " + skill->sName), box.Width()) << skill->sName;
+      EXPECT_LE(sheet.pctVerso.TextWidth(" " + skill.sName), box.Width()) << skill.sName;
 }
 
 TEST_F(Game, HasWhatTheRulesTakeForGranted) {
   const auto& data = run.data();
-  EXPECT_EQ(data.colSkill(18)->sName, "Conduite auto");
-  EXPECT_EQ(data.colSkill(16)->sName, "Conduite moto");
-  EXPECT_EQ(data.colSkill(44)->sName, "Pilotage d'hélicoptère");
+  EXPECT_EQ(data.colSkill(18).sName, "Conduite auto");
+  EXPECT_EQ(data.colSkill(16).sName, "Conduite moto");
+  EXPECT_EQ(data.colSkill(44).sName, "Pilotage d'hélicoptère");
   std::set<std::int16_t> keys;
-  for (const auto& skill : data.colSkill) EXPECT_TRUE(keys.insert(skill->iKey).second) << skill->sName;
+  for (const auto& skill : data.colSkill) EXPECT_TRUE(keys.insert(skill.iKey).second) << skill.sName;
   for (std::int16_t key = 56; key <= 60; ++key) EXPECT_EQ(keys.count(key), 1U) << key;
   for (const auto& profile : data.colProfil)
-    for (const double key : profile->colSkillPro)
-      EXPECT_EQ(keys.count(static_cast<std::int16_t>(key)), 1U) << profile->sName << ": " << key;
+    for (const double key : profile.colSkillPro)
+      EXPECT_EQ(keys.count(static_cast<std::int16_t>(key)), 1U) << profile.sName << ": " << key;
 }
 
 // The vehicle of the profiles is any of three skills.
 TEST_F(Game, EverySkillIsInSomeProfile) {
   const auto& data = run.data();
   std::set<double> used;
-  for (const int vehicle : {16, 18, 44}) used.insert(data.colSkill(vehicle)->iKey);
-  for (const auto& profile : data.colProfil) used.insert(profile->colSkillPro.begin(), profile->colSkillPro.end());
-  for (const auto& skill : data.colSkill) EXPECT_EQ(used.count(skill->iKey), 1U) << skill->sName;
+  for (const int vehicle : {16, 18, 44}) used.insert(data.colSkill(vehicle).iKey);
+  for (const auto& profile : data.colProfil) used.insert(profile.colSkillPro.begin(), profile.colSkillPro.end());
+  for (const auto& skill : data.colSkill) EXPECT_EQ(used.count(skill.iKey), 1U) << skill.sName;
 }
 
 TEST_F(Game, NoTwoArtsAreAlike) {
   std::set<std::pair<std::int16_t, std::int16_t>> restrictions;
   std::set<std::set<std::string>> techniques;
   for (const auto& art : run.data().colMartialArt) {
-    EXPECT_TRUE(restrictions.emplace(art->iRestrictO, art->iRestrictD).second) << art->sName;
+    EXPECT_TRUE(restrictions.emplace(art.iRestrictO, art.iRestrictD).second) << art.sName;
     std::map<std::string, std::set<std::string>> names;
-    for (int i = 1; i <= art->colMartialTechnic.Count(); ++i) {
-      const auto technic = art->colMartialTechnic(i);
+    for (int i = 1; i <= art.colMartialTechnic.Count(); ++i) {
+      const auto technic = art.colMartialTechnic(i);
       names[technic->sType].insert(technic->sName);
     }
-    for (const char* type : {"o", "d"}) EXPECT_TRUE(techniques.insert(names[type]).second) << art->sName << ' ' << type;
+    for (const char* type : {"o", "d"}) EXPECT_TRUE(techniques.insert(names[type]).second) << art.sName << ' ' << type;
   }
 }
 
@@ -121,9 +121,9 @@ TEST_F(Game, NoTwoArtsAreAlike) {
 TEST_F(Game, EveryCategoryHasThirteenPowersNumberedByTheirPlace) {
   std::map<std::string, int> powers;
   for (const auto& power : run.data().colMutation) {
-    const int place = powers[power->sCateg + power->sSign]++;
-    EXPECT_GE(power->iNum, 100) << power->sName;
-    EXPECT_TRUE(power->sSign == "Moins" || power->iNum % 100 == place) << power->sName;
+    const int place = powers[std::string(power.sCateg) + power.sSign]++;
+    EXPECT_GE(power.iNum, 100) << power.sName;
+    EXPECT_TRUE(power.sSign == "Moins" || power.iNum % 100 == place) << power.sName;
   }
   for (const std::string category : {"Alpha", "Bêta", "Epsilon", "Psy"}) {
     EXPECT_EQ(powers[category + "Plus"], 13) << category;

@@ -100,8 +100,8 @@ class Check {
   const clsSkill* skillOf(const ListItem& row) const {
     const auto key = whole(row.SubItems(SkillRow::Key));
     const auto found = std::find_if(data_.colSkill.begin(), data_.colSkill.end(),
-                                    [key](const auto& skill) { return skill->iKey == key; });
-    return found == data_.colSkill.end() ? nullptr : found->get();
+                                    [key](const auto& skill) { return skill.iKey == key; });
+    return found == data_.colSkill.end() ? nullptr : &*found;
   }
 
   // The pool, worked out anew from the state of the character.

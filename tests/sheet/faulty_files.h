@@ -25,13 +25,9 @@ class FaultyFiles : public DiskFiles {
     next();
     return DiskFiles::directoryExists(path);
   }
-  std::string read(const std::string& path) override {
+  std::unique_ptr<FileParts> open(const std::string& path) override {
     next();
-    return DiskFiles::read(path);
-  }
-  bool holds(const std::string& path, std::string_view bytes) override {
-    next();
-    return DiskFiles::holds(path, bytes);
+    return DiskFiles::open(path);
   }
   std::vector<FolderEntry> list(const std::string& path) override {
     next();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -16,6 +17,10 @@ class MemoryFiles : public Files {
   std::set<std::string> directories;
   // Paths whose every access fails, the questions apart.
   std::set<std::string> broken;
+  // How many bytes of a file can be read; the next ones fail.
+  std::map<std::string, std::size_t> readable;
+  // Bytes that a file gives at once, at most.
+  std::size_t part = std::string::npos;
   // Writes half of what it is given, and says nothing.
   bool lying = false;
   // Another program saves.
@@ -23,9 +28,11 @@ class MemoryFiles : public Files {
 
   bool fileExists(const std::string& path) override { return contents.count(path) > 0; }
   bool directoryExists(const std::string& path) override { return directories.count(path) > 0; }
-  std::string read(const std::string& path) override {
+  std::unique_ptr<FileParts> open(const std::string& path) override {
     require(path);
-    return existing(path);
+    const auto limit = readable.find(path);
+    return std::make_unique<SlicedFile>(existing(path), part,
+                                        limit == readable.end() ? std::string::npos : limit->second);
   }
   std::vector<FolderEntry> list(const std::string& path) override {
     require(path);
@@ -68,6 +75,25 @@ class MemoryFiles : public Files {
   }
 
  private:
+  class SlicedFile : public FileParts {
+   public:
+    SlicedFile(std::string bytes, std::size_t part, std::size_t readable)
+        : bytes_(std::move(bytes)), part_(part), readable_(readable) {}
+    std::size_t size() const override { return bytes_.size(); }
+    std::string_view next() override {
+      if (at_ >= readable_) throw Failure("Erreur d'entrée/sortie.");
+      const auto slice = std::string_view(bytes_).substr(at_, std::min(part_, readable_ - at_));
+      at_ += slice.size();
+      return slice;
+    }
+
+   private:
+    std::string bytes_;
+    std::size_t part_;
+    std::size_t readable_;
+    std::size_t at_ = 0;
+  };
+
   void require(const std::string& path) const {
     if (broken.count(path) > 0) throw Failure("Accès refusé : " + path + ".");
   }
