@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "player/act_kinds.h"
+#include "player/script_parser.h"
 
 namespace orvane {
 
@@ -30,6 +31,17 @@ std::string textBefore(const std::string& text, const Script& script, const Act&
 
 std::string wholeActs(const std::string& text, const Script& script) {
   return textBefore(text, script, script.acts.size());
+}
+
+Script takePast(SessionFile& file, const std::function<void(const std::string& torn)>& tell) {
+  const auto parsed = [&](const std::string& text) { return parseScript(file.path(), text); };
+  // A picture or a letter that was given for a session has a last line to lose too: nothing is cut before it is parsed.
+  const Script whole = parsed(file.text());
+  if (file.text().empty()) parsed(file.torn());
+  if (!file.torn().empty()) tell(file.torn());
+  const std::string text = wholeActs(file.text(), whole);
+  if (text != file.text() || !file.torn().empty()) file.cut(text);
+  return parsed(file.text());
 }
 
 }  // namespace orvane

@@ -15,9 +15,11 @@
 namespace orvane {
 namespace {
 
-// The user wants to leave rather than go on from where the past can be played no further. Through handlers that catch
+// The session is not gone on with: the user wants to leave, or its file cannot be renewed. Through handlers that catch
 // what they take for a failure.
-struct Leaving {};
+struct Leaving {
+  int status;
+};
 
 std::string headOfSession(Files& files) {
   return "# Session d'Orvane " + App::version() +
@@ -66,8 +68,8 @@ void Evening::begin() {
 void Evening::takeUp() {
   try {
     playPast();
-  } catch (const Leaving&) {
-    QCoreApplication::quit();
+  } catch (const Leaving& leaving) {
+    QCoreApplication::exit(leaving.status);
   }
 }
 
@@ -99,15 +101,26 @@ void Evening::tellRefused(const Act& act, const std::string& reason) {
                                             "\r\n\r\nContinuer à partir d'ici ? La suite de ces actes sera abandonnée, "
                                             "et le fichier d'avant gardé à côté.",
                                         BoxStyle::YesNo, App::Title);
-  if (answer != Answer::Yes) throw Leaving{};
+  if (answer != Answer::Yes) throw Leaving{0};
   kept_ = textBefore(kept_, past_, act);
 }
 
 void Evening::goOn() {
   progress_.reset();
-  if (kept_ != file_.text() && !file_.text().empty()) file_.restart(kept_);
+  renewFile();
   if (pdf_) session_.run().globals().paperOf = [this](const PrintedSheet& sheet) { return paper_.sheet(sheet); };
   windows_.catchUp();
+}
+
+void Evening::renewFile() {
+  if (kept_ == file_.text() || file_.text().empty()) return;
+  constexpr int notWritten = 2;
+  try {
+    file_.restart(kept_);
+  } catch (const std::exception& error) {
+    dialogs_.failure("La session reste telle qu'elle était, et ne peut pas être reprise.\r\n" + sentenceOn(error));
+    throw Leaving{notWritten};
+  }
 }
 
 void Evening::end() {

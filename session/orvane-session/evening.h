@@ -38,6 +38,7 @@ class Evening {
   void playPast();
   void tellRefused(const Act& act, const std::string& reason);
   void goOn();
+  void renewFile();
   void write(const std::string& lines);
 
   SessionFile& file_;

@@ -8,25 +8,19 @@
 #include "session/orvane-session/evening.h"
 #include "session/past_text.h"
 #include "surface/system_reason.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
 
-// What died in the middle of a line is told and left out.
-void takeTornLineOff(SessionFile& file, ScreenDialogs& dialogs) {
-  if (file.torn().empty()) return;
-  dialogs.notice("La dernière ligne de la session n'était pas entière, elle est laissée de côté :\r\n" + file.torn());
-  file.cut(file.text());
-}
-
-Script pastOf(SessionFile& file) {
-  const Script whole = parseScript(file.path(), file.text());
-  if (std::string text = wholeActs(file.text(), whole); text != file.text()) file.cut(std::move(text));
-  return parseScript(file.path(), file.text());
+void tellTorn(ScreenDialogs& dialogs, const std::string& torn) {
+  dialogs.notice("La dernière ligne de la session n'était pas entière, elle est laissée de côté :\r\n" +
+                 shortened(torn));
 }
 
 int goThrough(SessionFile& file, ScreenDialogs& dialogs, bool pdf) {
-  Evening evening(file, pastOf(file), dialogs, pdf);
+  Script past = takePast(file, [&](const std::string& torn) { tellTorn(dialogs, torn); });
+  Evening evening(file, std::move(past), dialogs, pdf);
   evening.windows().closed = [] { QCoreApplication::quit(); };
   const EndRequests endRequests(evening.windows());
   evening.begin();
@@ -44,7 +38,6 @@ int runSession(const std::string& path, bool pdf) {
   ScreenDialogs dialogs;
   try {
     SessionFile file(path);
-    takeTornLineOff(file, dialogs);
     return goThrough(file, dialogs, pdf);
   } catch (const ScriptError& error) {
     dialogs.failure("La session ne peut pas être reprise.\r\n" + error.message);

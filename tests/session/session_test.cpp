@@ -156,6 +156,29 @@ TEST(SessionFiles, BelongToOneProgramAndKeepWholeLines) {
   EXPECT_NE(whyNotOpened(folder.path()), "opened");
 }
 
+// What is told of a torn line, and what the file is then; or what is wrong with it.
+std::string takenPast(const std::string& bytes) {
+  const TemporaryFolder folder;
+  const std::string path = folder.path() + "/session";
+  SessionFile(path).append(bytes);
+  std::string told;
+  try {
+    SessionFile file(path);
+    takePast(file, [&](const std::string& torn) { told = torn + "|"; });
+  } catch (const ScriptError& error) {
+    told = error.message.substr(folder.path().size() + 1) + "|";
+  }
+  return told + bytesOf(path);
+}
+
+TEST(SessionFiles, AreNeverCutWhereTheyAreNoSessions) {
+  EXPECT_EQ(takenPast("# head\nclick a\nclock 3\nclick"), "click|# head\nclick a\n");
+  EXPECT_EQ(takenPast("# head\nclick a\nanswer No\n"), "# head\nclick a\n");
+  EXPECT_EQ(takenPast("# Session"), "# Session|");
+  EXPECT_EQ(takenPast("BM\x80\nbits"), "session:1: la ligne n'est pas en UTF-8|BM\x80\nbits");
+  EXPECT_EQ(takenPast("Chère Anne, bien à toi"), "session:1: acte inconnu « Chère »|Chère Anne, bien à toi");
+}
+
 TEST(SessionFiles, MakeUpForLinesThatFoundNoRoom) {
   const TemporaryFolder folder;
   const std::string path = folder.path() + "/session";
