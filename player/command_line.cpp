@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "player/script_parser.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
@@ -26,6 +27,9 @@ constexpr std::string_view help =
     "Code de sortie : 0 tout est fait, 1 un acte a été refusé ou a échoué, 2 un script ou un tableau ne se\n"
     "lit pas ou la commande est fautive, 3 une feuille ou un PDF n'a pas pu être sauvé.\n";
 
+// It is replaced where it is there: the script or the table behind a forgotten name must not be.
+bool isNameOfPdf(const std::string& file) { return lowerCase(file).ends_with(".pdf"); }
+
 [[noreturn]] void refuse(const std::string& reason) { throw ScriptError{reason + "\n" + std::string(usage)}; }
 
 int jobsOf(const std::string& text) {
@@ -34,6 +38,11 @@ int jobsOf(const std::string& text) {
   if (result.ec != std::errc() || result.ptr != text.data() + text.size() || jobs < 1 || jobs > CommandLine::mostJobs)
     refuse("--jobs attend un nombre de 1 à " + std::to_string(CommandLine::mostJobs) + ", pas « " + text + " »");
   return jobs;
+}
+
+std::string pdfOf(const std::string& file) {
+  if (!isNameOfPdf(file)) refuse("--contact-sheet attend le nom d'un fichier en .pdf, pas « " + file + " »");
+  return file;
 }
 
 }  // namespace
@@ -54,7 +63,7 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
     else if (*argument == "--pdf")
       line.pdf = true;
     else if (*argument == "--contact-sheet")
-      line.contactSheet = value();
+      line.contactSheet = pdfOf(value());
     else if (*argument == "--help")
       line.wantsHelp = true;
     else if (*argument == "--version")

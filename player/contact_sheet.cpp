@@ -1,6 +1,7 @@
 #include "player/contact_sheet.h"
 
 #include "player/one_run.h"
+#include "surface/failure.h"
 #include "surface/system_reason.h"
 
 namespace orvane {
@@ -12,7 +13,12 @@ void putInPlace(Files& files, const std::string& file, const std::string& bytes)
   const std::string fresh = folder + ".nouvelle-" + file.substr(slash + 1);
   files.Kill(fresh);
   files.write(fresh, bytes);
-  files.replace(fresh, file);
+  try {
+    files.replace(fresh, file);
+  } catch (const Failure&) {
+    files.Kill(fresh);
+    throw;
+  }
   files.sync(folder);
 }
 

@@ -203,12 +203,24 @@ def pair_stays_where_no_pdf_can_be(work):
             "something stays behind")
 
 
+def contact_sheet_takes_no_place_but_its_own(work):
+    script = example(work, "patrouille.script")
+    bytes_of_script = script.read_bytes()
+    (work / "planche.pdf").mkdir()
+    for number, (sheet, status) in enumerate(((work / "planche.pdf", 3), (script, 2))):
+        run = play(work / str(number), "--contact-sheet", sheet, script)
+        require(run.returncode == status, f"ended with {run.returncode}: {run.stderr}")
+    require(script.read_bytes() == bytes_of_script, "the script was replaced")
+    require(not list(work.glob(".*")), "something stays behind")
+
+
 with tempfile.TemporaryDirectory() as name:
     for check in (
         sheet_is_as_its_bitmaps,
         letters_of_other_fonts_are_the_same_bytes_too,
         table_gives_the_same_with_jobs,
         pair_stays_where_no_pdf_can_be,
+        contact_sheet_takes_no_place_but_its_own,
     ):
         folder = Path(name) / check.__name__
         folder.mkdir()
