@@ -21,7 +21,7 @@ class TableReader {
     Table::Row row{++line_, {}};
     do row.cells.push_back(cell());
     while (skip(","));
-    if (!skipLineEnd() && !atEnd()) throw LineError{"un guillemet au milieu d'un champ ou un texte derrière"};
+    if (!skipLineEnd() && !atEnd()) refuseHere();
     line_ += lineEndsInCells_;
     lineEndsInCells_ = 0;
     return row;
@@ -34,6 +34,11 @@ class TableReader {
     return true;
   }
   bool skipLineEnd() { return skip("\r\n") || skip("\n"); }
+
+  [[noreturn]] void refuseHere() const {
+    if (rest_.starts_with('\r')) throw LineError{"fin de ligne ancienne (CR seul)"};
+    throw LineError{"un guillemet au milieu d'un champ ou un texte derrière"};
+  }
 
   std::string cell() {
     return skip("\"") ? quotedCell() : take(std::min(rest_.find_first_of(",\"\r\n"), rest_.size()));
@@ -65,6 +70,9 @@ class TableReader {
 };
 
 void requireColumns(const std::vector<std::string>& columns) {
+  // As spreadsheets write it where numbers have a decimal comma.
+  if (columns.size() == 1 && columns.front().find(';') != std::string::npos)
+    throw LineError{"les champs sont séparés par des points-virgules, et devraient l'être par des virgules"};
   for (auto column = columns.begin(); column != columns.end(); ++column) {
     if (column->empty()) throw LineError{"une colonne n'a pas de nom"};
     if (std::find(columns.begin(), column, *column) != column) throw LineError{"deux colonnes « " + *column + " »"};

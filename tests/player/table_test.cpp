@@ -37,6 +37,9 @@ TEST(Tables, AreCommaSeparatedValues) {
   EXPECT_EQ(read("a,b\n1,\"2\n"), "t:2: guillemet non fermé");
   EXPECT_EQ(read("a\nx\"y\n"), "t:2: un guillemet au milieu d'un champ ou un texte derrière");
   EXPECT_EQ(read("a\n\"x\"y\n"), "t:2: un guillemet au milieu d'un champ ou un texte derrière");
+  EXPECT_EQ(read("a,b\r1,2\r"), "t:1: fin de ligne ancienne (CR seul)");
+  EXPECT_EQ(read("a;b\n1;\"2\"\n"),
+            "t:1: les champs sont séparés par des points-virgules, et devraient l'être par des virgules");
   EXPECT_EQ(read("a,b,a\n1,2,3\n"), "t:1: deux colonnes « a »");
   EXPECT_EQ(read("a,,b\n1,2,3\n"), "t:1: une colonne n'a pas de nom");
   EXPECT_EQ(read("a\n\xE9\n"), "t:2: la ligne n'est pas en UTF-8");
