@@ -50,6 +50,12 @@ std::string dataMarks(Files& files) {
   return marks;
 }
 
+bool hasDataMarks(const std::string& session) {
+  bool found = false;
+  forEachLine(session, [&](std::string_view line) { found = found || line.starts_with(markStart); });
+  return found;
+}
+
 std::vector<std::string> changedData(const std::string& session, Files& files) {
   std::vector<std::string> changed;
   for (const auto name : dataFiles())

@@ -86,12 +86,14 @@ std::string SessionFile::keepFormer() const {
 std::string SessionFile::restart(const std::string& text) {
   const std::string kept = text_.empty() && torn_.empty() ? std::string() : keepFormer();
   DiskFiles files;
-  const std::string fresh = path_ + ".nouveau";
+  // Not the link that may lead to it.
+  const std::string file = std::filesystem::canonical(path_).string();
+  const std::string fresh = file + ".nouveau";
   files.Kill(fresh);
   files.write(fresh, text);
-  files.takeRights(fresh, path_);
-  files.replace(fresh, path_);
-  files.sync(folderOf(path_));
+  files.takeRights(fresh, file);
+  files.replace(fresh, file);
+  files.sync(folderOf(file));
   open();
   return kept;
 }

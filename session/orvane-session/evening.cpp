@@ -108,6 +108,7 @@ void Evening::tellRefused(const Act& act, const std::string& reason) {
 void Evening::goOn() {
   progress_.reset();
   renewFile();
+  if (!hasDataMarks(kept_)) marks_ = dataMarks(files_);
   if (pdf_) session_.run().globals().paperOf = [this](const PrintedSheet& sheet) { return paper_.sheet(sheet); };
   windows_.catchUp();
 }
@@ -133,7 +134,7 @@ void Evening::end() {
 
 void Evening::write(const std::string& lines) {
   try {
-    file_.append(lines);
+    file_.append(std::exchange(marks_, {}) + lines);
     failureTold_ = false;
   } catch (const std::exception& error) {
     if (std::exchange(failureTold_, true)) return;

@@ -55,6 +55,8 @@ class Evening {
   std::unique_ptr<QProgressDialog> progress_;
   // What the file is to hold once the past is over.
   std::string kept_;
+  // What goes ahead of the first act of the present.
+  std::string marks_;
   bool failureTold_ = false;
 };
 

@@ -40,6 +40,11 @@ TEST(Journals, PutWhatAnActNeedsAheadOfIt) {
   journal.leaveOut();
   journal.write();
   EXPECT_EQ(lines, "answer OK No\nclick inner\n");
+  lines.clear();
+  journal.begin("window 2\nclick save");
+  journal.setFailed(true);
+  journal.write();
+  EXPECT_EQ(lines, "window 2\n# échoué : click save\n");
 }
 
 class Sessions : public ::testing::Test, protected TestWorld<> {
@@ -110,6 +115,8 @@ TEST_F(Sessions, WriteNeitherRefusalsNorFailedSavesNorTheEnd) {
 TEST_F(Sessions, KnowTheDataTheyWereMadeWith) {
   const std::string text = "# head\n" + dataMarks(files) + "click mnuFileNewPJ\n";
   EXPECT_EQ(changedData(text, files), (std::vector<std::string>{}));
+  EXPECT_TRUE(hasDataMarks(text));
+  EXPECT_FALSE(hasDataMarks("# head\nclick mnuFileNewPJ\n"));
   files.contents["skill.txt"] += "x";
   files.contents.erase("grade.txt");
   EXPECT_EQ(changedData(text, files), (std::vector<std::string>{"grade.txt", "skill.txt"}));
@@ -144,14 +151,16 @@ TEST(SessionFiles, BelongToOneProgramAndKeepWholeLines) {
     EXPECT_EQ(whyNotOpened(path), "La session ne s'ouvre pas : " + path + " (un autre programme la continue).");
     file.append("two\nthr");
   }
-  SessionFile file(path);
+  const std::string link = folder.path() + "/lien";
+  std::filesystem::create_symlink(path, link);
+  SessionFile file(link);
   EXPECT_EQ(file.text() + "|" + file.torn(), "one\ntwo\n|thr");
   file.cut("one\n");
   EXPECT_EQ(bytesOf(path), "one\n");
-  EXPECT_EQ(file.restart("new\n"), path + ".avant-1");
+  EXPECT_EQ(file.restart("new\n"), link + ".avant-1");
   file.append("three\n");
   EXPECT_EQ(bytesOf(path), "new\nthree\n");
-  EXPECT_EQ(bytesOf(path + ".avant-1"), "one\n");
+  EXPECT_EQ(bytesOf(link + ".avant-1"), "one\n");
   EXPECT_NE(whyNotOpened(path).find("un autre programme"), std::string::npos);
   EXPECT_NE(whyNotOpened(folder.path()), "opened");
 }
