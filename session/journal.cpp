@@ -16,6 +16,12 @@ std::string decimals(float seconds) {
   return {text.data(), end.ptr};
 }
 
+// The window that a failed act came with was activated all the same.
+std::string asFailed(std::string lines) {
+  const auto last = lines.rfind('\n') + 1;  // npos is one less than 0
+  return lines.insert(last, "# échoué : ");
+}
+
 }  // namespace
 
 void Journal::begin(std::string act) {
@@ -44,7 +50,7 @@ float Journal::timeOf(float now) {
 void Journal::write() {
   const auto done = std::exchange(open_, std::nullopt);
   if (!done) return;
-  if (done->failed) return sink_("# échoué : " + done->lines + "\n");
+  if (done->failed) return sink_(asFailed(done->lines) + "\n");
   std::string lines;
   if (done->time) lines += "clock " + decimals(*done->time) + "\n";
   if (done->neededAnswers > 0) lines += "answer";
