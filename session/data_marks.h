@@ -5,7 +5,7 @@
 
 #include "surface/world.h"
 
-// Which data a session was made with, in comments: at its head, or where a script that was begun otherwise is gone on with.
+// Which data a session was made with, in comments at its head, or where a script without them is gone on with.
 namespace orvane {
 
 // One comment for each of the files, whole lines.
