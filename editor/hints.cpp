@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "data/reference_data.h"
 #include "editor/art_row.h"
 #include "editor/frmPersonnage.h"
@@ -66,9 +68,9 @@ std::string frmPersonnage::stepped(const Control& arrow) const {
 std::string frmPersonnage::hint(const Control& control) const {
   const auto* button = dynamic_cast<const CommandButton*>(&control);
   const bool isArrow = button && button->picture() != CommandButton::Picture::None;
-  const Step step = stepIn(control.tab());
   if (isArrow && !control.Enabled()) return "Choisir d'abord un contact";
-  if (isArrow || &control == step.pool) return step.range;
+  const Control* const pools[] = {&txtLangRest, &txtCaractRest, &txtContactRest, &txtSkillRest, &txtMartialArtRest};
+  if (isArrow || std::count(std::begin(pools), std::end(pools), &control) > 0) return stepIn(control.tab()).range;
   if (&control == &txtMartialTechnicRest) return "1 technique par point de cet art, à cocher dans la liste";
   if (control.Name() == optCaract(0).Name() && !control.Enabled())
     return "Tant que deux caractéristiques seulement valent 0, elles ne se choisissent plus";

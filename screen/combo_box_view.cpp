@@ -34,11 +34,10 @@ QString NumberDelegate::displayText(const QVariant& value, const QLocale&) const
   return own == 0 ? text : QString(std::max(0, digits - own), blankOfADigit) + text;
 }
 
-ComboBoxView::ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form)
+ComboBoxView::ComboBoxView(ComboBox& box, SteadyCombo& combo, FormView& form)
     : View(box, combo, form), box_(box), combo_(combo) {
   combo_.setEditable(box_.editable());
   combo_.setInsertPolicy(QComboBox::NoInsert);
-  if (box_.editable()) combo_.setCompleter(nullptr);  // it would type what the user has not typed
   combo_.setFocusPolicy(Qt::StrongFocus);
   onEvent(combo_, rollPast);
   on(&combo_, &QComboBox::activated, [this](int index) { act([&](User& user) { user.pick(box_, index); }); });
@@ -65,7 +64,7 @@ void ComboBoxView::showEntries() {
     combo_.addItem(toQt(box_.List(i)));
     numbers_.digits = std::max(numbers_.digits, leadingDigits(combo_.itemText(i)));
   }
-  if (numbers_.digits > 0) combo_.setItemDelegate(&numbers_);
+  if (numbers_.digits > 0) combo_.setListDelegate(numbers_);
 }
 
 void ComboBoxView::showSelection() {

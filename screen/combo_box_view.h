@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QComboBox>
 #include <QStyledItemDelegate>
 
+#include "screen/steady_combo.h"
 #include "screen/view.h"
 #include "surface/combo_box.h"
 
@@ -19,7 +19,7 @@ class NumberDelegate final : public QStyledItemDelegate {
 
 class ComboBoxView final : public View {
  public:
-  ComboBoxView(ComboBox& box, QComboBox& combo, FormView& form);
+  ComboBoxView(ComboBox& box, SteadyCombo& combo, FormView& form);
 
  private:
   void show() override;
@@ -28,7 +28,7 @@ class ComboBoxView final : public View {
   bool entriesDiffer() const;
 
   ComboBox& box_;
-  QComboBox& combo_;
+  SteadyCombo& combo_;
   NumberDelegate numbers_;
 };
 

@@ -114,10 +114,16 @@ QVariant cellColour(Colour colour) {
   return colour == Colour::WindowText ? QVariant() : QVariant(static_cast<uint>(colour));
 }
 
-QFont cellFont(const QWidget& list, bool bold) {
-  QFont font = list.font();
-  font.setBold(bold);
+QFont boldFont(QFont font) {
+  font.setBold(true);
   return font;
+}
+
+// Nothing where it is that of the list.
+QVariant cellFont(const QWidget& list, bool bold) { return bold ? boldFont(list.font()) : QVariant(); }
+
+QVariant cellSide(bool right) {
+  return right ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
 }
 
 bool isNumber(std::string_view text) {
@@ -170,13 +176,12 @@ void ListViewView::showRow(const ListItem& row, QTreeWidgetItem& item) const {
   const int level = levelColumn(list_, row);
   for (int column = 1; column <= row.subItemCount() && column < tree_.columnCount(); ++column) {
     if (isHidden(list_, column)) continue;  // nobody is to read it
-    const bool right = list_.ColumnHeaders()[static_cast<std::size_t>(column)].rightAligned;
-    const Qt::Alignment side = right ? Qt::AlignRight : Qt::AlignLeft;
     const std::string text = row.SubItems(column);
     write(item, column, Qt::DisplayRole, toQt(text));
     write(item, column, Qt::AccessibleTextRole, spokenCell(text, column == level));
     write(item, column, Qt::ToolTipRole, tree_.headerItem()->toolTip(column));
-    write(item, column, Qt::TextAlignmentRole, static_cast<int>(side | Qt::AlignVCenter));
+    write(item, column, Qt::TextAlignmentRole,
+          cellSide(list_.ColumnHeaders()[static_cast<std::size_t>(column)].rightAligned));
     write(item, column, Qt::FontRole, cellFont(tree_, row.ListSubItems(column).Bold()));
     write(item, column, cellColourRole, cellColour(row.ListSubItems(column).ForeColor()));
   }
@@ -198,10 +203,10 @@ Widths& knownWidths(const QFont& font) {
   return widths;
 }
 
-int widthOf(const QString& text, const QFont& font, Widths& known) {
-  auto& widths = known[font.bold() ? 1 : 0];
-  const auto found = widths.constFind(text);
-  return found != widths.constEnd() ? *found : *widths.insert(text, QFontMetrics(font).horizontalAdvance(text));
+int widthOf(const QString& text, const QFont& font, bool bold, Widths& known) {
+  auto& widths = known[bold ? 1 : 0];
+  if (const auto found = widths.constFind(text); found != widths.constEnd()) return *found;
+  return *widths.insert(text, QFontMetrics(bold ? boldFont(font) : font).horizontalAdvance(text));
 }
 
 }  // namespace
@@ -212,7 +217,8 @@ int ListViewView::widthOfTexts(int column) const {
   int widest = 0;
   for (int i = 0; i < tree_.topLevelItemCount(); ++i) {
     const auto* item = tree_.topLevelItem(i);
-    widest = std::max(widest, widthOf(item->text(column), item->data(column, Qt::FontRole).value<QFont>(), known));
+    const bool bold = item->data(column, Qt::FontRole).isValid();
+    widest = std::max(widest, widthOf(item->text(column), tree_.font(), bold, known));
   }
   return widest + 2 * margin + 2;
 }

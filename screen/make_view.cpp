@@ -26,16 +26,15 @@ using Maker = std::unique_ptr<View> (*)(Control&, QWidget&, FormView&);
 template <class ControlKind, class WidgetKind, class ViewKind>
 std::unique_ptr<View> make(Control& control, QWidget& widget, FormView& form) {
   auto* kind = dynamic_cast<ControlKind*>(&control);
-  auto* shown = dynamic_cast<WidgetKind*>(&widget);
-  if (!kind || !shown) return nullptr;
-  return std::make_unique<ViewKind>(*kind, *shown, form);
+  auto* shown = kind ? dynamic_cast<WidgetKind*>(&widget) : nullptr;
+  return shown ? std::make_unique<ViewKind>(*kind, *shown, form) : nullptr;
 }
 
 // Which widgets show which kinds.
 constexpr Maker makers[] = {
     make<TextBox, QLineEdit, LineEditView>,
     make<TextBox, QPlainTextEdit, MultiLineView>,
-    make<ComboBox, QComboBox, ComboBoxView>,
+    make<ComboBox, SteadyCombo, ComboBoxView>,
     make<ListBox, QListWidget, ListBoxView>,
     make<OptionButton, QRadioButton, OptionButtonView>,
     make<CheckBox, QCheckBox, CheckBoxView>,

@@ -120,12 +120,12 @@ QString markInWords(Colour backColor) {
 }
 
 void showBoxColour(QWidget& box, Colour backColor) {
-  const QVariant shown = box.property("orvaneBackColor");
-  if (backColor != Colour::WindowBackground)
-    box.setPalette(boxPalette(backColor, QApplication::palette(&box)));
-  else if (shown.isValid() && shown.toUInt() != static_cast<uint>(backColor))
-    box.setPalette(QPalette());
-  box.setProperty("orvaneBackColor", static_cast<uint>(backColor));
+  constexpr const char* colouredBefore = "orvaneColoured";
+  const bool isColoured = backColor != Colour::WindowBackground;
+  const bool wasColoured = box.property(colouredBefore).toBool();
+  if (isColoured) box.setPalette(boxPalette(backColor, QApplication::palette(&box)));
+  if (wasColoured && !isColoured) box.setPalette(QPalette());
+  if (wasColoured != isColoured) box.setProperty(colouredBefore, isColoured);
   const QString description = describedWith(box, markInWords(backColor));
   if (box.accessibleDescription() != description) box.setAccessibleDescription(description);
 }

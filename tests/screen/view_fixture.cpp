@@ -11,6 +11,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "screen/steady_combo.h"
+
 namespace orvane::test {
 namespace {
 
@@ -28,7 +30,7 @@ void fill(QWidget& window) {
   add<QLineEdit>(window, "text")->setAccessibleDescription("Nom complet");
   add<QPlainTextEdit>(window, "lines");
   add<QLineEdit>(window, "locked");
-  for (const char* name : {"list", "combo"}) add<QComboBox>(window, name);
+  for (const char* name : {"list", "combo"}) add<SteadyCombo>(window, name);
   add<QListWidget>(window, "names");
   add<QCheckBox>(window, "check");
   add<QScrollBar>(window, "bar")->setOrientation(Qt::Horizontal);
