@@ -104,10 +104,7 @@ void ChildWindow::takeKeyboard() {
   (taker ? taker : this)->setFocus(Qt::OtherFocusReason);
 }
 
-void ChildWindow::giveKeyboardToFocus() {
-  if (auto* focused = form().focused() ? view_->viewOf(*form().focused()) : nullptr)
-    focused->focusWidget().setFocus(Qt::OtherFocusReason);
-}
+void ChildWindow::giveKeyboardToFocus() { view_->giveKeyboardToFocus(); }
 
 void ChildWindow::end() {
   view_->detach();

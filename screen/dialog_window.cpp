@@ -63,6 +63,7 @@ void DialogWindow::runModal() {
   const QPointer<DialogWindow> alive(this);  // the loop that it ends may delete it
   QEventLoop loop;
   loop_ = &loop;
+  view_->giveKeyboardToFocus();
   openOnScreen();
   if (!form().wasUnloaded()) loop.exec(QEventLoop::DialogExec);
   if (alive) loop_ = nullptr;

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 
 #include "canvas/qt_text.h"
+#include "screen/line_edits.h"
 #include "screen/make_view.h"
 #include "screen/steps.h"
 #include "surface/desktop.h"
@@ -94,6 +95,13 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     for (auto& view : views_) schedule(*view);
   }
   return false;
+}
+
+void FormView::giveKeyboardToFocus() {
+  auto* view = form_->focused() ? viewOf(*form_->focused()) : nullptr;
+  if (!view) return;
+  putCursorAtEnd(view->focusWidget());
+  view->focusWidget().setFocus(Qt::OtherFocusReason);
 }
 
 void FormView::focusReturned() {

@@ -36,6 +36,8 @@ class FormView : public QObject {
   // Shows now what waits for the next turn.
   void flush();
   void detach();
+  // To the control that has the focus on the form, where there is one, behind what stands in it.
+  void giveKeyboardToFocus();
   // For a widget that had the keyboard, in a way, when another window took it.
   void giveKeyboardOnReturn(QWidget& heir) { heir_ = &heir; }
 

@@ -1,6 +1,8 @@
 #include "screen/line_edits.h"
 
+#include <QComboBox>
 #include <QFocusEvent>
+#include <QPlainTextEdit>
 #include <QRegularExpression>
 
 namespace orvane {
@@ -37,6 +39,13 @@ bool enteredAtEnd(QWidget& holder, QLineEdit& edit, const QEvent& event) {
   static_cast<QObject&>(holder).event(&selectingNothing);
   edit.end(false);
   return true;
+}
+
+void putCursorAtEnd(QWidget& widget) {
+  const auto* combo = qobject_cast<QComboBox*>(&widget);
+  if (auto* edit = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(&widget)) edit->end(false);
+  auto* lines = qobject_cast<QPlainTextEdit*>(&widget);
+  if (lines && !lines->isReadOnly()) lines->moveCursor(QTextCursor::End);
 }
 
 }  // namespace orvane

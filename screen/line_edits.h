@@ -15,4 +15,7 @@ void keepToOneLine(QLineEdit& edit);
 // holder is the widget that gets the event, the edit itself or the combo around it.
 bool enteredAtEnd(QWidget& holder, QLineEdit& edit, const QEvent& event);
 
+// Where the widget is an edit of one or more lines, or a combo around one.
+void putCursorAtEnd(QWidget& widget);
+
 }  // namespace orvane

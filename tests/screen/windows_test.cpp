@@ -3,10 +3,13 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 
+#include "player/script_parser.h"
+#include "session/session.h"
 #include "sheet/frmFeuille.h"
 #include "tests/screen/desktop_fixture.h"
 
@@ -246,12 +249,33 @@ TEST_F(MainWindows, CatchUpWithWhatTheyDidNotSee) {
   EXPECT_EQ(mainWindow().area().subWindowList().size(), 2);
   EXPECT_EQ(windowList(), "&1 (sans nom)*\n&2 Help File\n");
   EXPECT_EQ(QApplication::focusWidget(), &find<QLineEdit>(active, "txtPerso"));
+  EXPECT_EQ(find<QLineEdit>(active, "txtPerso").cursorPosition(), 4);
   windows.lookAway();
   bool hasClosed = false;
   windows.closed = [&] { hasClosed = true; };
   user.close(frame);
   windows.catchUp();
   EXPECT_TRUE(hasClosed);
+}
+
+TEST_F(MainWindows, GoOnInADialogBehindWhatWasTypedThere) {
+  Session session(world(), [](const std::string&) {});
+  Windows own(session.run().desktop(), session.user());
+  dialogs.setWindows(own);
+  session.run().Main();
+  own.lookAway();
+  session.arrived = [&] { own.catchUp(); };
+  onceOpen<DialogWindow>([](DialogWindow& dialog) {
+    const auto* description = dialog.findChild<QPlainTextEdit*>("txtContactDescro");
+    EXPECT_EQ(dialog.focusWidget(), description);
+    EXPECT_EQ(description->textCursor().position(), 5);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  const Script past = parseScript("past",
+                                  "click mnuFileNewPJ\npick SSTabPerso 2\nclick cmdContactNew\n"
+                                  "type txtContactName \"Mado\"\ntype txtContactDescro \"Tient\"\n");
+  session.playPast(past);
+  EXPECT_FALSE(session.run().desktop().modal());
 }
 
 TEST_F(MainWindows, CharacterWindowsKeepTheirSize) {
