@@ -97,7 +97,7 @@ void Evening::playPast() {
 void Evening::tellRefused(const Act& act, const std::string& reason) {
   progress_.reset();
   const Answer answer = dialogs_.MsgBox("La session s'arrête à la ligne " + std::to_string(act.line) + " : " +
-                                            lineOf(file_.text(), act.line) + "\r\n" + reason +
+                                            shortened(lineOf(file_.text(), act.line)) + "\r\n" + shortened(reason) +
                                             "\r\n\r\nContinuer à partir d'ici ? La suite de ces actes sera abandonnée, "
                                             "et le fichier d'avant gardé à côté.",
                                         BoxStyle::YesNo, App::Title);

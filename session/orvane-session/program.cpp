@@ -40,7 +40,7 @@ int runSession(const std::string& path, bool pdf) {
     SessionFile file(path);
     return goThrough(file, dialogs, pdf);
   } catch (const ScriptError& error) {
-    dialogs.failure("La session ne peut pas être reprise.\r\n" + error.message);
+    dialogs.failure("La session ne peut pas être reprise.\r\n" + shortened(error.message));
   } catch (const std::exception& error) {
     dialogs.failure(sentenceOn(error));
   }

@@ -13,6 +13,7 @@
 #include "surface/disk_files.h"
 #include "surface/failure.h"
 #include "surface/system_reason.h"
+#include "surface/text.h"
 
 namespace orvane {
 namespace {
@@ -57,7 +58,7 @@ int shortenSession(const std::string& path) {
     shorten(path);
     return 0;
   } catch (const ScriptError& error) {
-    std::cerr << error.message << '\n';
+    std::cerr << shortened(error.message) << '\n';
   } catch (const std::exception& error) {
     std::cerr << "orvane-session: " << sentenceOn(error) << '\n';
   }
